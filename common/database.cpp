@@ -1,0 +1,93 @@
+#include "common/database.h"
+
+#include <exception>
+#include <utility>
+
+#include "controls/text_key.h"
+
+namespace pelorin {
+
+namespace {
+
+constexpr std::size_t blockRows = 500;
+constexpr std::int32_t fieldNotFound = 3265;
+constexpr std::int32_t noCurrentRow = 3021;
+
+}  // namespace
+
+RecordSet::RecordSet(std::unique_ptr<Cursor> cursor)
+    : cursor_(std::move(cursor)), columns_(cursor_->columns()) {}
+
+std::size_t RecordSet::fetchBlock() {
+  if (!cursor_) return 0;
+  const std::size_t fetched = cursor_->fetch(blockRows, cells_);
+  if (fetched == 0) cursor_.reset();
+  return fetched;
+}
+
+bool RecordSet::next(SourceLine where) {
+  return withLine(where, [this] {
+    if (row_ == rows_ && cursor_) {
+      cells_.clear();
+      row_ = 0;
+      rows_ = 0;
+      rows_ = fetchBlock();
+    }
+    if (row_ == rows_ && pending_) std::rethrow_exception(std::exchange(pending_, nullptr));
+    if (row_ == rows_) return false;
+    ++row_;
+    return true;
+  });
+}
+
+void RecordSet::drain() {
+  try {
+    for (std::size_t fetched = fetchBlock(); fetched > 0; fetched = fetchBlock()) rows_ += fetched;
+  } catch (...) {
+    pending_ = std::current_exception();
+    cursor_.reset();
+  }
+}
+
+void RecordSet::close() {
+  cursor_.reset();
+  cells_.clear();
+  row_ = 0;
+  rows_ = 0;
+  pending_ = nullptr;
+}
+
+const Value& RecordSet::value(int position, SourceLine where) const {
+  if (row_ == 0) throw RunTimeError(noCurrentRow, "There is no current record.", where.line());
+  const auto column = static_cast<std::size_t>(position);
+  if (position < 0 || column >= columns_.size()) {
+    throw RunTimeError(
+        fieldNotFound,
+        "Item cannot be found in the collection: column " + std::to_string(position) + ".",
+        where.line());
+  }
+  return cells_[(row_ - 1) * columns_.size() + column];
+}
+
+const Value& RecordSet::value(std::string_view field, SourceLine where) const {
+  for (std::size_t column = 0; column < columns_.size(); ++column) {
+    if (equalNoCase(columns_[column], field)) return value(static_cast<int>(column), where);
+  }
+  throw RunTimeError(fieldNotFound,
+                     "Item cannot be found in the collection: " + std::string(field) + ".",
+                     where.line());
+}
+
+RecordSet Connection::open(std::string_view sql, SourceLine where) {
+  return withLine(where, [&] { return RecordSet(openCursor(sql)); });
+}
+
+void Connection::execute(std::string_view sql, SourceLine where) {
+  withLine(where, [&] { run(sql); });
+}
+
+void Connection::execute(ProcedureCall& procedure, SourceLine where) {
+  withLine(where, [&] { call(procedure); });
+}
+
+}  // namespace pelorin

@@ -1,0 +1,101 @@
+#include "common/module1.h"
+
+#include <algorithm>
+
+#include "common/guard.h"
+#include "controls/text_key.h"
+
+namespace pelorin {
+
+namespace {
+
+constexpr unsigned iniBufferCharacters = 200;
+
+template <class Reference>
+std::shared_ptr<Reference> required(const std::shared_ptr<Reference>& reference,
+                                    const SourceLine& where) {
+  if (!reference) {
+    throw RunTimeError(error_number::objectNotSet, "Object variable or With block variable not set",
+                       where.line());
+  }
+  return reference;
+}
+
+}  // namespace
+
+std::shared_ptr<HostServices> Module1::NTConnection(SourceLine where) const {
+  return required(services_, where);
+}
+
+std::shared_ptr<Connection> Module1::DBConnection(SourceLine where) const {
+  return required(database_, where);
+}
+
+void Module1::ReportError(std::string_view procedure, const RunTimeError& error) noexcept {
+  try {
+    const std::string text = std::string(procedure) + ": Line: " + std::to_string(error.line()) +
+                             " :" + error.description();
+    LogError(text);
+    screen_.messageBox(BoxRequest{text, BoxIcon::Critical, BoxButtons::Ok});
+  } catch (...) {
+    // Nothing is left that could tell the operator.
+    return;
+  }
+}
+
+bool Module1::LogError(const std::string& message) noexcept {
+  try {
+    return environment_.appendLine(environment_.componentFolder() + "\\Pelorin.txt",
+                                   environment_.dateTimeText() + ": " + message);
+  } catch (...) {
+    return false;
+  }
+}
+
+std::string Module1::GRS(std::int32_t id, const Substitutions& texts) noexcept {
+  return guardedOr(*this, "MPublic: GRS", std::string(), [&] {
+    return texts.front().empty() ? NTConnection()->GetResourceString(id)
+                                 : NTConnection()->GRS(id, texts);
+  });
+}
+
+bool Module1::MyPermissionGranted(std::int16_t componentType,
+                                  const std::string& subPermission) noexcept {
+  return guardedOr(*this, "Module1.MyPermissionGranted", false,
+                   [&] { return NTConnection()->canView(componentType, subPermission); });
+}
+
+std::string Module1::ReadIniValue(const std::string& file, const std::string& section,
+                                  const std::string& key) const {
+  return environment_.privateProfileString(section, key, "NOTINITIALIZED", iniBufferCharacters + 1,
+                                           file);
+}
+
+std::string Module1::GetCCTVActionName(std::int16_t action) {
+  switch (action) {
+    case 1:
+      return GRS(1677);
+    case 2:
+      return GRS(1675);
+    case 3:
+      return GRS(1821);
+    default:
+      return {};
+  }
+}
+
+void Module1::inform(const std::string& text) {
+  screen_.messageBox(BoxRequest{text, BoxIcon::Information, BoxButtons::Ok});
+}
+
+std::int16_t DeviceClassIdFromName(std::string_view name) {
+  if (equalNoCase(name, "CCTV")) return device_class::cctv;
+  if (equalNoCase(name, "DVR") || equalNoCase(name, "DVR / NVR")) return device_class::dvr;
+  return 0;
+}
+
+std::string FirstWord(std::string_view text) {
+  return std::string(text.substr(0, text.find(' ')));
+}
+
+}  // namespace pelorin

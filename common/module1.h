@@ -1,0 +1,69 @@
+// The services that every window uses: the references the host handed over, the error report and
+// its log file, resource texts, the permission check, settings files.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "common/database.h"
+#include "common/environment.h"
+#include "common/host_services.h"
+#include "controls/screen.h"
+
+namespace pelorin {
+
+class Module1 {
+ public:
+  Module1(Screen& screen, Environment& environment) : screen_(screen), environment_(environment) {}
+
+  // Set by the host, at any time; used from the next statement on. Null is nothing.
+  void setNTConnection(std::shared_ptr<HostServices> services) { services_ = std::move(services); }
+  void setDBConnection(std::shared_ptr<Connection> database) { database_ = std::move(database); }
+
+  // Error 91 when the host gave none. Hold the result only for one call.
+  std::shared_ptr<HostServices> NTConnection(SourceLine where = SourceLine::current()) const;
+  std::shared_ptr<Connection> DBConnection(SourceLine where = SourceLine::current()) const;
+
+  Screen& screen() const noexcept { return screen_; }
+  const Environment& environment() const noexcept { return environment_; }
+
+  // Appends the report to the log file and shows it in a critical message box. Never throws; when
+  // the log cannot be written the box is shown all the same.
+  void ReportError(std::string_view procedure, const RunTimeError& error) noexcept;
+
+  // Resource text from the host; empty after an error (reported as "MPublic: GRS").
+  std::string GRS(std::int32_t id, const Substitutions& texts = {}) noexcept;
+  // False after an error (reported as "Module1.MyPermissionGranted").
+  bool MyPermissionGranted(std::int16_t componentType, const std::string& subPermission) noexcept;
+  // At most 200 characters; "NOTINITIALIZED" when file, section or key is missing.
+  std::string ReadIniValue(const std::string& file, const std::string& section,
+                           const std::string& key) const;
+  // Display name of a CCTV action, empty for an unknown one.
+  std::string GetCCTVActionName(std::int16_t action);
+
+  // Information icon, OK button.
+  void inform(const std::string& text);
+
+ private:
+  bool LogError(const std::string& message) noexcept;
+
+  Screen& screen_;
+  Environment& environment_;
+  std::shared_ptr<HostServices> services_;
+  std::shared_ptr<Connection> database_;
+};
+
+// The device classes a trigger action can act on.
+namespace device_class {
+inline constexpr std::int16_t cctv = 999;
+inline constexpr std::int16_t dvr = 1;
+}  // namespace device_class
+
+// 999 for "CCTV", 1 for "DVR" and "DVR / NVR" in any case, else 0.
+std::int16_t DeviceClassIdFromName(std::string_view name);
+// The text before the first blank, or all of it.
+std::string FirstWord(std::string_view text);
+
+}  // namespace pelorin

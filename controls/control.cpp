@@ -1,0 +1,61 @@
+#include "controls/control.h"
+
+#include <utility>
+
+#include "controls/tab_control.h"
+
+namespace pelorin {
+
+Control::Control(ControlKind kind, std::string name, Place place, std::string text)
+    : kind_(kind), name_(std::move(name)), text_(std::move(text)), place_(place) {}
+
+void Control::notify(Aspect aspect, int index) const {
+  if (view_ != nullptr) view_->modelChanged(Change{aspect, index});
+}
+
+void Control::setText(const std::string& text) {
+  if (text == text_) return;
+  text_ = text;
+  notify(Aspect::Text);
+}
+
+void Control::setVisible(bool visible) {
+  if (visible == visible_) return;
+  visible_ = visible;
+  notify(Aspect::Visible);
+}
+
+void Control::setEnabled(bool enabled) {
+  if (enabled == enabled_) return;
+  enabled_ = enabled;
+  notify(Aspect::Enabled);
+}
+
+void Control::setPlace(const Place& place) {
+  if (place == place_) return;
+  place_ = place;
+  notify(Aspect::Place);
+}
+
+void Control::setBold(bool bold) {
+  if (bold == bold_) return;
+  bold_ = bold;
+  notify(Aspect::Bold);
+}
+
+void Control::setContainer(Control& container, int page) noexcept {
+  container_ = &container;
+  page_ = page;
+}
+
+bool Control::reachable() const noexcept {
+  if (!visible_ || !enabled_) return false;
+  if (container_ == nullptr) return true;
+  if (container_->kind() == ControlKind::TabControl &&
+      static_cast<const TabControl*>(container_)->tab() != page_) {
+    return false;
+  }
+  return container_->reachable();
+}
+
+}  // namespace pelorin

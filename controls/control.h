@@ -1,0 +1,121 @@
+// A control is a model: it holds what an operator sees and raises the events a form answers.
+// A native peer (or nothing, when running head-less) mirrors it.
+#pragma once
+
+#include <string>
+
+namespace pelorin {
+
+class Form;
+
+enum class ControlKind {
+  Label,
+  TextBox,
+  CheckBox,
+  Button,
+  ComboBox,
+  ListBox,
+  ListView,
+  TreeView,
+  Grid,
+  TabControl,
+  Frame,
+};
+
+// In twips (1/1440 inch), relative to the container's client area.
+struct Place {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  bool operator==(const Place&) const = default;
+};
+
+// What a view has to look at again. `index` names the row or page where one is concerned, else -1.
+enum class Aspect {
+  Text,  // caption or text
+  Visible,
+  Enabled,
+  Place,
+  Bold,
+  Columns,    // columns of a list view or grid, pictures of a tree
+  Items,      // any number of items were added, removed or changed
+  Item,       // the content of item `index`
+  Selection,  // current item, row, node or page
+  Checks,     // check marks (of item `index`, or of any when -1)
+};
+
+struct Change {
+  Aspect aspect;
+  int index = -1;
+};
+
+// A view is told after the model changed and reads the new state from the model. It may be told
+// many times in a row: views of long lists must coalesce.
+class ControlView {
+ public:
+  virtual void modelChanged(const Change& change) = 0;
+  virtual void takeFocus() {}
+
+ protected:
+  ~ControlView() = default;
+};
+
+class Control {
+ public:
+  Control(ControlKind kind, std::string name, Place place, std::string text = {});
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control() = default;
+
+  ControlKind kind() const noexcept { return kind_; }
+  // The design name, such as "cmbDVRUnit"; a member of a control array is "cmdAddEdit(1)".
+  const std::string& name() const noexcept { return name_; }
+
+  // Caption of labels, buttons, check boxes and frames (with & mnemonics), text of text boxes.
+  const std::string& text() const noexcept { return text_; }
+  virtual void setText(const std::string& text);
+
+  // The control's own setting, whatever its container or tab page shows.
+  bool visible() const noexcept { return visible_; }
+  void setVisible(bool visible);
+  bool enabled() const noexcept { return enabled_; }
+  void setEnabled(bool enabled);
+  const Place& place() const noexcept { return place_; }
+  void setPlace(const Place& place);
+  bool bold() const noexcept { return bold_; }
+  void setBold(bool bold);
+  const std::string& tag() const noexcept { return tag_; }
+  void setTag(const std::string& tag) { tag_ = tag; }
+
+  // A frame, a tab control (then `page` says on which page), or null for the form itself.
+  Control* container() const noexcept { return container_; }
+  int page() const noexcept { return page_; }
+  void setContainer(Control& container, int page = 0) noexcept;
+
+  // Whether an operator could reach it now: visible and enabled, and so are its containers, and
+  // its page is in front.
+  bool reachable() const noexcept;
+
+  ControlView* view() const noexcept { return view_; }
+  void setView(ControlView* view) noexcept { view_ = view; }
+
+ protected:
+  void notify(Aspect aspect, int index = -1) const;
+  void storeText(const std::string& text) { text_ = text; }
+
+ private:
+  ControlKind kind_;
+  std::string name_;
+  std::string text_;
+  std::string tag_;
+  Place place_;
+  bool visible_ = true;
+  bool enabled_ = true;
+  bool bold_ = false;
+  Control* container_ = nullptr;
+  int page_ = 0;
+  ControlView* view_ = nullptr;
+};
+
+}  // namespace pelorin

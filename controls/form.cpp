@@ -1,0 +1,91 @@
+#include "controls/form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "controls/screen.h"
+
+namespace pelorin {
+
+Form::Form(std::string name, std::string caption, Size client)
+    : name_(std::move(name)), caption_(std::move(caption)), client_(client) {}
+
+void Form::setCaption(const std::string& caption) {
+  if (caption == caption_) return;
+  caption_ = caption;
+  if (view_ != nullptr) view_->captionChanged();
+}
+
+void Form::addControls(std::initializer_list<Control*> inTabOrder) {
+  controls_.insert(controls_.end(), inTabOrder);
+}
+
+void Form::setResizable(Size smallest) {
+  resizable_ = true;
+  smallest_ = smallest;
+}
+
+Control* Form::find(std::string_view controlName) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [&](const Control* c) { return c->name() == controlName; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+WindowHandle Form::hwnd() const {
+  return screen_ == nullptr ? 0 : screen_->windowOf(*this);
+}
+
+void Form::unload() {
+  if (screen_ != nullptr) screen_->unload(*this);
+}
+
+bool Form::Form_KeyDown(int) {
+  return false;
+}
+
+void Form::userFocus(Control* control) {
+  if (control == focused_) return;
+  Control* left = std::exchange(focused_, control);
+  if (left != nullptr && left->kind() == ControlKind::TextBox) {
+    static_cast<TextBox*>(left)->userLeave();
+  }
+}
+
+void Form::userPress(Button& button) {
+  if (!button.reachable()) return;
+  userFocus(&button);
+  button.userClick();
+}
+
+void Form::userEnter() {
+  if (focused_ != nullptr && focused_->kind() == ControlKind::Button) {
+    static_cast<Button*>(focused_)->userClick();
+  } else if (defaultButton_ != nullptr) {
+    userPress(*defaultButton_);
+  }
+}
+
+void Form::userKeyDown(int keyCode) {
+  if (Form_KeyDown(keyCode)) return;
+  if (keyCode == key_code::enter) {
+    userEnter();
+  } else if (keyCode == key_code::escape && cancelButton_ != nullptr) {
+    cancelButton_->userClick();
+  }
+}
+
+void Form::userClose() {
+  if (closeIsCancel_ && cancelButton_ != nullptr) {
+    cancelButton_->userClick();
+  } else {
+    unload();
+  }
+}
+
+void Form::userResize(Size client) {
+  if (client == client_) return;
+  client_ = client;
+  Form_Resize();
+}
+
+}  // namespace pelorin

@@ -1,0 +1,81 @@
+#include "controls/screen.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace pelorin {
+
+void Screen::show(Form& form, WindowHandle owner) {
+  if (form.isOpen()) {
+    raiseWindow(form);
+    return;
+  }
+  form.screen_ = this;
+  form.focused_ = nullptr;
+  open_.push_back(&form);
+  owners_.push_back(Owned{&form, owner});
+  createWindow(form, owner);
+  form.Form_Load();
+  // A box shown while loading lets the host run; it may have closed the window meanwhile.
+  if (form.isOpen()) presentWindow(form);
+}
+
+Screen::Owned* Screen::entryOf(const Form& form) {
+  const auto found = std::find_if(owners_.begin(), owners_.end(),
+                                  [&form](const Owned& owned) { return owned.form == &form; });
+  return found == owners_.end() ? nullptr : &*found;
+}
+
+Form* Screen::formOf(WindowHandle window) const {
+  const auto found = std::find_if(open_.begin(), open_.end(), [&](const Form* form) {
+    return window != 0 && windowOf(*form) == window;
+  });
+  return found == open_.end() ? nullptr : *found;
+}
+
+void Screen::unloadOwnedBy(const Form& form) {
+  const WindowHandle window = windowOf(form);
+  while (window != 0) {
+    const auto owned = std::find_if(owners_.rbegin(), owners_.rend(), [window](const Owned& o) {
+      return o.owner == window && !o.form->unloading_;
+    });
+    if (owned == owners_.rend()) return;
+    unload(*owned->form);
+  }
+}
+
+void Screen::unload(Form& form) {
+  if (form.screen_ != this || form.unloading_) return;
+  form.unloading_ = true;
+  unloadOwnedBy(form);
+  form.Form_Unload();
+  std::erase(open_, &form);
+  std::erase_if(owners_, [&form](const Owned& owned) { return owned.form == &form; });
+  destroyWindow(form);
+  form.screen_ = nullptr;
+  form.view_ = nullptr;
+  form.unloading_ = false;
+  const std::function<void()> unloaded = form.onUnloaded;
+  if (unloaded) unloaded();
+}
+
+void Screen::unloadAll() {
+  const std::vector<Form*> open = open_;
+  for (Form* form : open) {
+    if (std::find(open_.begin(), open_.end(), form) != open_.end()) unload(*form);
+  }
+}
+
+WindowHandle Screen::setOwner(Form& form, WindowHandle owner) {
+  Owned* entry = entryOf(form);
+  if (entry == nullptr) return 0;
+  const WindowHandle previous = std::exchange(entry->owner, owner);
+  changeOwner(form, owner);
+  return previous;
+}
+
+void Screen::retire(std::unique_ptr<Form> form) {
+  retired_.push_back(std::move(form));
+}
+
+}  // namespace pelorin

@@ -1,0 +1,21 @@
+#include "controls/tab_control.h"
+
+#include <utility>
+
+#include "controls/run_time_error.h"
+
+namespace pelorin {
+
+TabControl::TabControl(std::string name, Place place, std::vector<std::string> captions)
+    : Control(ControlKind::TabControl, std::move(name), place), captions_(std::move(captions)) {}
+
+void TabControl::setTab(int tab) {
+  if (tab < 0 || tab >= static_cast<int>(captions_.size())) {
+    throw RunTimeError(error_number::invalidPropertyValue, "Invalid property value");
+  }
+  if (tab == tab_) return;
+  tab_ = tab;
+  notify(Aspect::Selection);
+}
+
+}  // namespace pelorin
