@@ -41,6 +41,7 @@ class RecordSet {
   void drain();
   void close();
 
+  const std::vector<std::string>& columns() const noexcept { return columns_; }
   const Value& value(std::string_view field, SourceLine where = SourceLine::current()) const;
   const Value& value(int position, SourceLine where = SourceLine::current()) const;
 
