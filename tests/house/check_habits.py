@@ -1,0 +1,58 @@
+#!/usr/bin/env python3
+"""Habits that the code does without, each with the place where it is allowed after all."""
+
+import os
+import re
+
+from project import CODE, ROOT, files, finish, numbered, text
+
+# The guard turns an error into a report; at the boundaries nothing may pass into foreign code.
+CATCHERS = ("common/", "addin/", "win32/", "host/", "site/", "tests/", "bench/", "tools/")
+PRINTERS = ("host/", "site/", "tests/", "bench/", "tools/")
+BOUNDARIES = ("win32/", "addin/", "host/", "tests/")
+
+RULES = [
+    (r"\bcatch\s*\(", lambda name: not name.startswith(CATCHERS), "an error is caught by the guard, not here"),
+    (r"\b(sleep_for|sleep_until|usleep|nanosleep|Sleep|SleepEx)\s*\(",
+     lambda name: name.startswith("tests/"),
+     "a test waits for what it expects, not for a time"),
+    (r"\bDISABLED_|\bGTEST_SKIP\b", lambda name: name.startswith("tests/") and not name.startswith("tests/windows/"),
+     "a test runs"),
+    (r"\bNOLINT\w*(?!\w*\([a-z])", lambda name: True, "name the check that is silenced"),
+    (r"\b(TODO|FIXME|XXX|HACK)\b", lambda name: True, "finish it, or write down elsewhere that it is open"),
+    (r"\busing\s+namespace\s+std\b", lambda name: True, "no using namespace std"),
+    (r"#\s*pragma\s+GCC\s+diagnostic\s+ignored", lambda name: not name.startswith(BOUNDARIES),
+     "mend the warning"),
+    (r"\b(printf|std::cout|std::cerr)\b", lambda name: not name.startswith(PRINTERS),
+     "the component does not print"),
+]
+
+
+def code_problems(name):
+    for number, line in numbered(name):
+        for pattern, applies, advice in RULES:
+            if applies(name) and re.search(pattern, line):
+                yield f"{name}:{number}: {advice}: {line.strip()}"
+    if name.endswith(".h") and "#pragma once" not in text(name):
+        yield f"{name}: no #pragma once"
+
+
+def places_of_this_machine(name):
+    """Absolute paths of whoever works on the project do not belong into it."""
+    local = {str(ROOT), os.path.expanduser("~")} - {"/"}
+    try:
+        lines = list(numbered(name))
+    except UnicodeDecodeError:
+        return
+    for number, line in lines:
+        if any(re.search(re.escape(path) + r"(/|\b)", line) for path in local) or re.search(r"/(home|Users)/\w+/", line):
+            yield f"{name}:{number}: a path of one machine: {line.strip()}"
+
+
+def main():
+    problems = [problem for name in files(*CODE) for problem in code_problems(name)]
+    problems += [problem for name in files() for problem in places_of_this_machine(name)]
+    finish(problems)
+
+
+main()
