@@ -14,7 +14,8 @@ def problems_of(names):
     output = done.stdout.decode("utf-8", "replace")
     if done.returncode != 0 and "error:" not in output:
         return [output]
-    return [line for line in output.splitlines() if "error:" in line]
+    unlike = dict.fromkeys(line.split(":")[0] for line in output.splitlines() if "error:" in line)
+    return [f"{name} is not laid out as clang-format -i would" for name in unlike]
 
 
 def main():

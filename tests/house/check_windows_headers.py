@@ -7,9 +7,9 @@ from project import CODE, files, finish, numbered
 
 ROOMS = ("win32/", "addin/", "host/", "tests/win32/", "tests/addin/", "tests/host/", "tests/windows/")
 HEADER = re.compile(
-    r"\s*#\s*include\s+<((win[a-z0-9]*|ole[a-z0-9]*|oaidl|objbase|objidl|ocidl|comm(ctrl|dlg)|comdef|shl[a-z]*"
-    r"|shell[a-z]*|uxtheme|unknwn|tlhelp32|rpc[a-z]*|htmlhelp|initguid|activscp|dispex|com[a-z]*utils?|sql(ext|types|ucode)?|tchar"
-    r"|richedit|psapi|dwmapi|gdiplus|wtypes)\.h)>", re.IGNORECASE)
+    r"\s*#\s*include\s+<((win[a-z0-9]*|ole[a-z0-9]*|oaidl|objbase|objidl|ocidl|unknwn|wtypes|initguid|activscp|dispex"
+    r"|comm(ctrl|dlg)|comdef|com[a-z]*utils?|shl[a-z]*|shell[a-z]*|uxtheme|dwmapi|gdiplus|richedit|htmlhelp|tlhelp32"
+    r"|psapi|tchar|rpc[a-z]*|sql(ext|types|ucode)?)\.h)>", re.IGNORECASE)
 MACRO = re.compile(r"\b(_WIN32|__MINGW32__)\b")
 
 
