@@ -23,6 +23,9 @@ class Environment {
                                            const std::string& file) const = 0;
   // The bytes of a file; error 53 when it is missing or cannot be read.
   virtual std::string readFile(const std::string& path) const = 0;
+  // Replaces the whole content of a file, which is created when missing; error 75 when it cannot be
+  // written, and then the old content stands.
+  virtual void writeFile(const std::string& path, const std::string& bytes) = 0;
 };
 
 }  // namespace pelorin

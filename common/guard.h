@@ -7,6 +7,7 @@
 #pragma once
 
 #include <exception>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -44,6 +45,17 @@ Result guardedOr(Module1& module, std::string_view procedure, Result fallback,
                  Work&& work) noexcept {
   guarded(module, procedure, [&] { fallback = std::forward<Work>(work)(); });
   return fallback;
+}
+
+// The error that ended `work`, if one did: for a caller that goes on by the error's number.
+template <class Work>
+std::optional<RunTimeError> errorOf(Work&& work) noexcept {
+  try {
+    std::forward<Work>(work)();
+    return std::nullopt;
+  } catch (...) {
+    return currentError();
+  }
 }
 
 }  // namespace pelorin

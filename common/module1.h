@@ -27,7 +27,7 @@ class Module1 {
   std::shared_ptr<Connection> DBConnection(SourceLine where = SourceLine::current()) const;
 
   Screen& screen() const noexcept { return screen_; }
-  const Environment& environment() const noexcept { return environment_; }
+  Environment& environment() const noexcept { return environment_; }
 
   // Appends the report to the log file and shows it in a critical message box. Never throws; when
   // the log cannot be written the box is shown all the same.

@@ -33,7 +33,8 @@ class TreeNode {
   std::vector<std::unique_ptr<TreeNode>> children_;
 };
 
-// The pictures of a tree: cells of 16 x 16 pixels cut from one strip, as 32-bit BGRA rows.
+// The pictures of a tree: cells of 16 x 16 pixels cut from one strip. A pixel is 0xAARRGGBB with
+// straight (not premultiplied) alpha. A node may name a cell that is not there: it has no picture.
 struct ImageStrip {
   static constexpr int cellSize = 16;
   int cells = 0;

@@ -23,4 +23,9 @@ std::string FakeEnvironment::readFile(const std::string& path) const {
   return found->second;
 }
 
+void FakeEnvironment::writeFile(const std::string& path, const std::string& bytes) {
+  if (!canWrite) throw RunTimeError(75, "Path/File access error");
+  files[path] = bytes;
+}
+
 }  // namespace pelorin::test

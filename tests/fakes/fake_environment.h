@@ -25,6 +25,7 @@ class FakeEnvironment : public Environment {
                                    const std::string& fallback, unsigned capacity,
                                    const std::string& file) const override;
   std::string readFile(const std::string& path) const override;
+  void writeFile(const std::string& path, const std::string& bytes) override;
 };
 
 }  // namespace pelorin::test
