@@ -99,6 +99,7 @@ def look(unit, key):
             (CACHE / key).touch()
         return []
     output = done.stdout.decode("utf-8", "replace").replace(f"{ROOT}/", "")
+    output = re.sub(r"^\d+ warnings?( and \d+ errors?)? generated\.\n", "", output, flags=re.MULTILINE)
     return re.split(r"\n(?=\S+:\d+:\d+: (?:error|warning):)", output.rstrip())
 
 
