@@ -55,6 +55,10 @@ std::string numberText(std::int64_t number) {
   return std::to_string(number);
 }
 
+std::string numberText(std::int32_t number) {
+  return std::to_string(number);
+}
+
 std::string numberText(double number) {
   char buffer[512];
   const auto [end, error] =

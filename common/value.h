@@ -34,6 +34,7 @@ bool toBoolean(const Value& value);
 
 // Decimal text with a full stop, whatever the locale, in the fewest digits that read back the same.
 std::string numberText(std::int64_t number);
+std::string numberText(std::int32_t number);
 std::string numberText(double number);
 // Five digits with leading zeros, as event numbers are shown and compared.
 std::string eventNumberText(std::int32_t eventId);

@@ -1,0 +1,171 @@
+#include "catalog/event_catalogue.h"
+
+#include <algorithm>
+
+#include "catalog/event_text.h"
+#include "common/guard.h"
+
+namespace pelorin {
+
+namespace {
+
+constexpr std::size_t mostTypes = 51;
+constexpr std::int16_t lastOrdinaryFilter = 7;
+
+EventTypeInfo readEventType(const RecordSet& rows) {
+  EventTypeInfo type;
+  type.FilterType = rows.text("FilterType");
+  type.DisplayName = type.FilterType + " Events";
+  type.FilterIndex = rows.int16("filterIndex");
+  type.TableName = rows.text("TableName");
+  type.MinEventID = parseInt32(rows.text("MinEventID"));
+  type.MaxEventID = parseInt32(rows.text("MaxEventID"));
+  return type;
+}
+
+}  // namespace
+
+void EventCatalogue::InitEventTypeInfoArray() {
+  loaded_ = guarded(module_, "Module1.InitEventTypeInfoArray", [this] {
+    records_.assign(mostTypes, EventTypeInfo());
+    RecordSet rows = module_.DBConnection()->open("exec TA_FetchAllEventTypeInfo");
+    std::size_t count = 0;
+    for (; rows.next(); ++count) {
+      if (count == mostTypes) {
+        throw RunTimeError(error_number::subscriptOutOfRange, "Subscript out of range", __LINE__);
+      }
+      records_[count] = readEventType(rows);
+    }
+    rows.close();
+    records_.resize(count + 1);
+  });
+}
+
+std::span<EventTypeInfo> EventCatalogue::types() noexcept {
+  return std::span(records_).first(records_.empty() ? 0 : records_.size() - 1);
+}
+
+std::span<const EventTypeInfo> EventCatalogue::types() const noexcept {
+  return std::span(records_).first(records_.empty() ? 0 : records_.size() - 1);
+}
+
+void EventCatalogue::LoadFilterList(ListBox& list) {
+  guarded(module_, "Module1.LoadFilterList", [&] {
+    const bool newerHardware = module_.NTConnection()->ZornIsVn8HardwareSupportEnabled();
+    RecordSet rows =
+        module_.DBConnection()->open("select * from TA_EventFilters order by FilterIndex");
+    while (rows.next()) {
+      const std::int32_t filter = rows.int32("filterIndex");
+      if (filter <= lastOrdinaryFilter || newerHardware) {
+        list.addItem(rows.text("FilterType") + " Events", filter);
+      }
+    }
+  });
+}
+
+const EventTypeInfo* EventCatalogue::typeOf(std::int32_t eventId) const noexcept {
+  const auto walked = types();
+  const auto found = std::find_if(walked.begin(), walked.end(), [eventId](const EventTypeInfo& t) {
+    return !t.TableName.empty() && t.MinEventID <= eventId && eventId <= t.MaxEventID;
+  });
+  return found == walked.end() ? nullptr : &*found;
+}
+
+std::string EventCatalogue::descriptionOf(const std::string& sql) {
+  RecordSet rows = module_.DBConnection()->open(sql);
+  rows.drain();
+  if (!rows.next()) return {};
+  return eventText(rows, module_.NTConnection()->EnableCustomize());
+}
+
+// The lower bound differs from GetFilterIndexByEventID's by one: 80001 is looked up in the
+// catalogue here and asked of the Zorn definitions there.
+std::string EventCatalogue::GetEventDescription(std::int32_t eventId) {
+  return guardedOr(module_, "Module1.GetEventDescription", std::string(), [&]() -> std::string {
+    if (eventId > 80001 && eventId < 90000) return ZornGetEventDescription(eventId);
+    const EventTypeInfo* type = typeOf(eventId);
+    if (type == nullptr) return {};
+    return descriptionOf("select EventId, Description, DefaultDescription from " + type->TableName +
+                         " where EventId = " + numberText(eventId));
+  });
+}
+
+std::string EventCatalogue::ZornGetEventDescription(std::int32_t eventId) {
+  return guardedOr(module_, "Module1.ZornGetEventDescription", std::string(), [&] {
+    return descriptionOf(
+        "select Description, DefaultDescription from Zorn_EventDefinitions where EventId = " +
+        numberText(eventId));
+  });
+}
+
+std::int16_t EventCatalogue::GetFilterIndexByEventID(std::int32_t eventId) {
+  if (eventId > 80000 && eventId < 90000) return ZornGetFilterIndexByEventID(eventId);
+  const EventTypeInfo* type = typeOf(eventId);
+  return type == nullptr ? std::int16_t{0} : type->FilterIndex;
+}
+
+std::int16_t EventCatalogue::ZornGetFilterIndexByEventID(std::int32_t eventId) {
+  return guardedOr(module_, "Module1.ZornGetFilterIndexByEventID", std::int16_t{0},
+                   [&]() -> std::int16_t {
+                     RecordSet rows = module_.DBConnection()->open(
+                         "select ZornEventType from zorn_EventDefinitions where EventID = " +
+                         numberText(eventId));
+                     return rows.next() ? ZornEventTypeToFilterIndex(rows.int32("ZornEventType"))
+                                        : std::int16_t{0};
+                   });
+}
+
+std::int16_t EventCatalogue::ZornEventTypeToFilterIndex(std::int32_t zornEventType) noexcept {
+  switch (zornEventType) {
+    case 20:
+      return 8;
+    case 21:
+      return 9;
+    case 22:
+      return 10;
+    case 24:
+      return 11;
+    case 25:
+      return 12;
+    default:
+      return 0;
+  }
+}
+
+std::string EventCatalogue::GetFilterTypeByFilterIndex(std::int16_t filterIndex) const {
+  for (const EventTypeInfo& type : types()) {
+    if (!type.TableName.empty() && type.FilterIndex == filterIndex) return type.FilterType;
+  }
+  return {};
+}
+
+std::int32_t EventCatalogue::GetRTNEvent(std::int32_t alarmEventId) {
+  return guardedOr(module_, "Module1.GetRTNEvent", std::int32_t{0}, [&]() -> std::int32_t {
+    std::string sql;
+    if (alarmEventId >= 5000 && alarmEventId <= 5999) {
+      sql = "select ExternalEventId as RTNEventID from RetNormalMatrix where AlarmID = ";
+    } else if (alarmEventId >= 10000 && alarmEventId <= 10999) {
+      sql =
+          "select IntegratedRTNId as RTNEventID from IntegratedRTNMatrix where "
+          "IntegratedAlarmID = ";
+    } else {
+      return 0;
+    }
+    RecordSet rows = module_.DBConnection()->open(sql + numberText(alarmEventId));
+    return rows.next() ? rows.int32("RTNEventID") : 0;
+  });
+}
+
+void EventCatalogue::ClearEventsLoaded(std::int16_t filterIndex) noexcept {
+  for (EventTypeInfo& type : records_) {
+    if (type.FilterIndex == filterIndex) type.EventsLoaded = false;
+  }
+}
+
+void EventCatalogue::ClearAllEventsLoaded(const ListBox& filters) noexcept {
+  for (EventTypeInfo& type : records_) {
+    if (type.FilterIndex >= 0 && type.FilterIndex < filters.listCount()) type.EventsLoaded = false;
+  }
+}
+
+}  // namespace pelorin
