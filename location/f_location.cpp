@@ -1,0 +1,276 @@
+#include "location/f_location.h"
+
+#include <limits>
+
+#include "common/guard.h"
+#include "location/hardware_tree.h"
+#include "location/layout.h"
+#include "location/location_text.h"
+#include "location/node_images.h"
+#include "location/picture_strip.h"
+
+namespace pelorin {
+
+namespace {
+
+constexpr Size designClient{5145, 5820};
+constexpr Size smallestWindow{4000, 3000};
+constexpr std::int16_t singleMode = 1;
+constexpr std::int16_t multiMode = 2;
+constexpr int okButton = 0;
+constexpr int closeButton = 1;
+constexpr int helpButton = 2;
+constexpr const char* noLocation = "<None>";
+constexpr std::int16_t helpTopic = 178;
+constexpr std::int16_t formNumber = 85;
+constexpr std::int32_t invalidPicture = 481;
+
+std::string buttonName(int index) {
+  return "cmdMain(" + std::to_string(index) + ")";
+}
+
+}  // namespace
+
+FLocation::FLocation(Module1& module)
+    : Form("FLocation", "Select Locations", designClient),
+      Label1("Label1", designLayout().label1, "Double-click to add location to list"),
+      lbllocationLabel("lbllocationLabel", designLayout().locationLabel, "Location:"),
+      lblLocation("lblLocation", designLayout().location, noLocation),
+      lblCaption("lblCaption", designLayout().captionLabel, "Caption:"),
+      txtCaption("txtCaption", designLayout().caption),
+      tvTree("tvTree", designLayout().tree),
+      cmdMain{Button{buttonName(okButton), designLayout().ok, "OK"},
+              Button{buttonName(closeButton), designLayout().close, "Close"},
+              Button{buttonName(helpButton), designLayout().help, "&Help"}},
+      module_(module),
+      Localizer1(*this, module.environment(), {lblCaption, txtCaption, Label1}),
+      MhStretch1(designClient) {
+  lblLocation.setUseMnemonic(false);
+  setResizable(smallestWindow);
+  setDefaultButton(&cmdMain[okButton]);
+  setCancelButton(&cmdMain[closeButton]);
+  setCloseIsCancel(false);
+  addControls({&lbllocationLabel, &lblLocation, &lblCaption, &txtCaption, &Label1, &tvTree,
+               &cmdMain[okButton], &cmdMain[closeButton], &cmdMain[helpButton]});
+  connectEvents();
+}
+
+void FLocation::connectEvents() {
+  tvTree.onNodeClick = [this](TreeNode& node) { tvTree_NodeClick(node); };
+  tvTree.onDoubleClick = [this] { tvTree_DblClick(); };
+  lblLocation.onClick = [this] { lblLocation_Click(); };
+  for (int index : {okButton, closeButton, helpButton}) {
+    cmdMain[static_cast<std::size_t>(index)].onClick = [this, index] { cmdMain_Click(index); };
+  }
+  Localizer1.onCustomizeStart = [this] { Localizer1_CustomizeStart(); };
+  Localizer1.onCustomizeEnd = [this] { Localizer1_CustomizeEnd(); };
+}
+
+void FLocation::setMode(const std::string& mode) {
+  m_LocationMode = equalNoCase(mode, "singlelocation") ? singleMode : multiMode;
+}
+
+LocationTarget& FLocation::parent() const {
+  if (m_Parent == nullptr) {
+    throw RunTimeError(error_number::objectNotSet,
+                       "Object variable or With block variable not set");
+  }
+  return *m_Parent;
+}
+
+// A step that fails is reported and does not keep the window from opening. The report's box lets
+// the host run, so the window may be gone afterwards.
+void FLocation::loadStep(const std::function<void()>& work) {
+  if (isOpen()) guarded(module_, "FLocation.Form_Load", work);
+}
+
+void FLocation::Form_Load() {
+  const HourglassPointer hourglass(module_.screen());
+  resetSelection();
+  loadStep([this] {
+    m_bVn8HardwareSupport = module_.NTConnection()->ZornIsVn8HardwareSupportEnabled();
+  });
+  loadStep([this] { m_PrevOwner = module_.screen().setOwner(*this, parent().locationOwner()); });
+  loadStep([this] {
+    m_GraphicsPath = module_.environment().componentFolder() + "\\Graphics\\";
+    loadPictures();
+  });
+  loadStep([this] { buildTree(); });
+  std::int16_t number = formNumber;
+  loadStep([&] { LoadCustomResources(number); });
+  if (isOpen()) cmdMain[okButton].setEnabled(false);
+}
+
+void FLocation::resetSelection() {
+  m_SelectedNode = nullptr;
+  m_AddedCount = 0;
+  m_bVn8HardwareSupport = false;
+  lblLocation.setText(noLocation);
+  lblLocation.setBold(false);
+}
+
+void FLocation::loadPictures() {
+  ImageStrip strip =
+      cutIntoCells(readBitmap(module_.environment().readFile(m_GraphicsPath + "pcDetail.bmp")));
+  const int cells = strip.cells;
+  tvTree.setImages(std::move(strip));
+  if (cells < node_image::highest) {
+    throw RunTimeError(invalidPicture, "Invalid picture: \"pcDetail.bmp\" has " +
+                                           std::to_string(cells) + " of " +
+                                           std::to_string(node_image::highest) + " pictures");
+  }
+}
+
+void FLocation::buildTree() {
+  LocationNodes nodes(module_, tvTree, [this] { return isOpen(); });
+  HardwareTree hardware(nodes, m_bVn8HardwareSupport);
+  if (!hardware.RefreshHardware() && isOpen()) {
+    module_.screen().messageBox(BoxRequest{"error in refreshhardware"});
+  }
+}
+
+void FLocation::Form_Activate() {
+  guarded(module_, "FLocation.Form_Activate", [this] {
+    const bool single = m_LocationMode == singleMode;
+    Label1.setText(single ? "Single-click to select location"
+                          : "Double-click to add location to list");
+    cmdMain[okButton].setVisible(single);
+    cmdMain[closeButton].setText(single ? "Cancel" : "Close");
+  });
+}
+
+void FLocation::Form_Resize() {
+  guarded(module_, "FLocation.Form_Resize", [this] {
+    const bool minimised = client().width <= 0 || client().height <= 0;
+    if (minimised) return;
+    MhStretch1.setExtents(client());
+    placeControls();
+  });
+}
+
+void FLocation::placeControls() {
+  const LocationLayout layout = layOut(MhStretch1);
+  Label1.setPlace(layout.label1);
+  lbllocationLabel.setPlace(layout.locationLabel);
+  lblLocation.setPlace(layout.location);
+  lblCaption.setPlace(layout.captionLabel);
+  txtCaption.setPlace(layout.caption);
+  tvTree.setPlace(layout.tree);
+  cmdMain[okButton].setPlace(layout.ok);
+  cmdMain[closeButton].setPlace(layout.close);
+  cmdMain[helpButton].setPlace(layout.help);
+}
+
+void FLocation::Form_Unload() {
+  guarded(module_, "FLocation.Form_Unload", [this] {
+    module_.screen().setOwner(*this, m_PrevOwner);
+    m_Parent = nullptr;
+    m_bCustomizing = false;
+    Localizer1.setEnabled(false);
+  });
+}
+
+bool FLocation::Form_KeyDown(int keyCode) {
+  return guardedOr(module_, "FLocation.Form_KeyDown", false, [&] {
+    if (Localizer1.keyDown(keyCode)) return true;
+    if (keyCode == key_code::escape) {
+      cmdMain_Click(closeButton);
+      return true;
+    }
+    const bool adds = keyCode == key_code::enter || keyCode == key_code::space;
+    if (!adds || m_LocationMode != multiMode || focused() != &tvTree) return false;
+    tvTree.userDoubleClick();
+    return true;
+  });
+}
+
+void FLocation::tvTree_NodeClick(TreeNode& node) {
+  guarded(module_, "FLocation.tvTree_NodeClick", [&] {
+    m_SelectedNode = &node;
+    lblLocation.setBold(false);
+    lblLocation.setText(isLocation(node) ? locationText(node) : noLocation);
+    cmdMain[okButton].setEnabled(isLocation(node));
+  });
+}
+
+void FLocation::tvTree_DblClick() {
+  guarded(module_, "FLocation.tvTree_DblClick", [this] {
+    if (m_LocationMode == singleMode || tvTree.selectedNode() == nullptr) return;
+    m_SelectedNode = tvTree.selectedNode();
+    lblLocation.setBold(false);
+    if (isLocation(*m_SelectedNode)) addSelectedLocation();
+  });
+}
+
+void FLocation::addSelectedLocation() {
+  const TreeNode& node = *m_SelectedNode;
+  const auto error = errorOf([&] { parent().addLocation(node.tag, locationText(node), node.tag); });
+  // A location can be listed only once.
+  if (error && error->number() == error_number::keyNotUnique) return;
+  if (error) throw RunTimeError(*error);
+  lblLocation.setText(lblLocation.text() + " added");
+  lblLocation.setBold(true);
+  if (m_AddedCount < std::numeric_limits<std::int16_t>::max()) ++m_AddedCount;
+}
+
+void FLocation::lblLocation_Click() {
+  guarded(module_, "FLocation.lblLocation_Click", [this] {
+    if (m_bCustomizing) customize(lblLocation);
+  });
+}
+
+void FLocation::cmdMain_Click(int index) {
+  guarded(module_, "FLocation.cmdMain_Click", [&] {
+    if (m_bCustomizing) {
+      customize(cmdMain[static_cast<std::size_t>(index)]);
+    } else if (index == okButton) {
+      acceptLocation();
+    } else if (index == closeButton) {
+      parent().setSingleLocation("", "");
+      unload();
+    } else {
+      module_.NTConnection()->ShowHelp(helpTopic);
+    }
+  });
+}
+
+void FLocation::acceptLocation() {
+  if (m_SelectedNode == nullptr || !isLocation(*m_SelectedNode)) return;
+  parent().setSingleLocation(locationText(*m_SelectedNode), m_SelectedNode->tag);
+  unload();
+}
+
+void FLocation::LoadCustomResources(std::int16_t& number) {
+  guarded(module_, "FLocation.LoadCustomResources", [&] {
+    if (!module_.NTConnection()->EnableCustomize()) return;
+    Localizer1.setConnection(module_.DBConnection());
+    Localizer1.setNumber(number);
+    Localizer1.setVersion(PELORIN_VERSION);
+    Localizer1.apply();
+    Localizer1.setEnabled(true);
+  });
+}
+
+void FLocation::Localizer1_CustomizeStart() {
+  guarded(module_, "FLocation.Localizer1_CustomizeStart", [this] {
+    MhStretch1.setDesignMode(true);
+    m_bCustomizing = true;
+  });
+}
+
+void FLocation::Localizer1_CustomizeEnd() {
+  guarded(module_, "FLocation.Localizer1_CustomizeEnd", [this] {
+    m_bCustomizing = false;
+    m_CustomizeTarget = nullptr;
+    MhStretch1.setDesignMode(false);
+    placeControls();
+    Localizer1.save();
+  });
+}
+
+void FLocation::customize(Control& control) {
+  m_CustomizeTarget = &control;
+  Localizer1.edit(*m_CustomizeTarget, *this);
+}
+
+}  // namespace pelorin

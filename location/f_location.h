@@ -1,0 +1,80 @@
+// The location picker: a tree of everything that can raise an event. The operator picks one
+// location (single mode) or adds any number of them (multi mode) to the form that opened it.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "common/form_links.h"
+#include "common/module1.h"
+#include "controls/tree_view.h"
+#include "location/localizer.h"
+#include "location/mh_stretch.h"
+
+namespace pelorin {
+
+class FLocation : public Form {
+ public:
+  explicit FLocation(Module1& module);
+
+  // Both are set before the form is shown, and again when it is asked for while it is open.
+  // "singlelocation" in any case is single mode, everything else multi mode.
+  void setMode(const std::string& mode);
+  void setParent(LocationTarget& parent) { m_Parent = &parent; }
+
+  // How many locations were added in multi mode since the form was opened.
+  std::int16_t addedCount() const noexcept { return m_AddedCount; }
+
+  Label Label1;
+  Label lbllocationLabel;
+  Label lblLocation;
+  Label lblCaption;
+  TextBox txtCaption;
+  TreeView tvTree;
+  std::array<Button, 3> cmdMain;  // OK, Cancel or Close, Help
+
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_Resize() override;
+  void Form_Unload() override;
+  bool Form_KeyDown(int keyCode) override;
+
+ private:
+  void connectEvents();
+  void loadStep(const std::function<void()>& work);
+  void resetSelection();
+  void loadPictures();
+  void buildTree();
+  void LoadCustomResources(std::int16_t& number);
+  void customize(Control& control);
+  void Localizer1_CustomizeStart();
+  void Localizer1_CustomizeEnd();
+  void placeControls();
+
+  void tvTree_NodeClick(TreeNode& node);
+  void tvTree_DblClick();
+  void addSelectedLocation();
+  void lblLocation_Click();
+  void cmdMain_Click(int index);
+  void acceptLocation();
+
+  // The form that opened the picker. Error 91 when there is none.
+  LocationTarget& parent() const;
+
+  Module1& module_;
+  LocationTarget* m_Parent = nullptr;
+  std::int16_t m_LocationMode = 2;
+  TreeNode* m_SelectedNode = nullptr;
+  std::int16_t m_AddedCount = 0;
+  WindowHandle m_PrevOwner = 0;
+  std::string m_GraphicsPath;
+  bool m_bVn8HardwareSupport = false;
+  bool m_bCustomizing = false;
+  Control* m_CustomizeTarget = nullptr;
+  Localizer Localizer1;
+  MhStretch MhStretch1;
+};
+
+}  // namespace pelorin

@@ -1,0 +1,31 @@
+#include "location/location_nodes.h"
+
+namespace pelorin {
+
+RecordSet LocationNodes::rows(const std::string& sql, SourceLine where) const {
+  stopWhenClosed();
+  RecordSet rows = module_.DBConnection(where)->open(sql, where);
+  rows.drain();
+  return rows;
+}
+
+TreeNode& LocationNodes::add(TreeNode* parent, NodeTexts texts) {
+  stopWhenClosed();
+  if (tree_.find(texts.key) != nullptr) texts.key = freeKey(texts.key);
+  return tree_.add(parent, std::move(texts));
+}
+
+std::string LocationNodes::freeKey(const std::string& key) {
+  int& copies = copies_.try_emplace(key, 1).first->second;
+  std::string free;
+  do {
+    free = key + '#' + std::to_string(++copies);
+  } while (tree_.find(free) != nullptr);
+  return free;
+}
+
+void LocationNodes::stopWhenClosed() const {
+  if (!wanted_()) throw AlreadyReported{};
+}
+
+}  // namespace pelorin

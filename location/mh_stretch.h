@@ -1,0 +1,31 @@
+// Keeps widths in proportion to the client area.
+#pragma once
+
+#include "controls/form.h"
+
+namespace pelorin {
+
+class MhStretch {
+ public:
+  explicit MhStretch(Size design) : design_(design), extents_(design) {}
+
+  // The client area as it is now.
+  void setExtents(Size client) noexcept { extents_ = client; }
+  Size extents() const noexcept { return extents_; }
+
+  // In design mode everything keeps its design width, so that nothing moves under the hand of an
+  // operator who edits captions.
+  void setDesignMode(bool on) noexcept { designMode_ = on; }
+  bool designMode() const noexcept { return designMode_; }
+
+  int width(int designWidth) const noexcept {
+    return designMode_ ? designWidth : designWidth * extents_.width / design_.width;
+  }
+
+ private:
+  Size design_;
+  Size extents_;
+  bool designMode_ = false;
+};
+
+}  // namespace pelorin
