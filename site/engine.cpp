@@ -1,0 +1,211 @@
+#include "site/engine.h"
+
+#include <sqlite3.h>
+
+#include <array>
+#include <limits>
+#include <utility>
+
+#include "site/errors.h"
+
+namespace pelorin::site {
+
+namespace {
+
+constexpr int busyMilliseconds = 2000;
+
+struct Wording {
+  std::string_view engine;  // how the engine's message begins
+  std::string_view before;
+  std::string_view after;
+};
+
+// The engine's messages and what the server says in the same case.
+constexpr std::array<Wording, 4> wordings{
+    {{"no such table: ", "Invalid object name '", "'."},
+     {"no such column: ", "Invalid column name '", "'."},
+     {"near \"", "Incorrect syntax near '", "'."},
+     {"ambiguous column name: ", "Ambiguous column name '", "'."}}};
+
+// The subject of a message: up to its closing remark, without quotes.
+std::string subject(std::string_view text) {
+  text = text.substr(0, text.find("\": syntax error"));
+  text = text.substr(0, text.find(" - should this be"));
+  if (text.size() > 1 && text.front() == '"' && text.back() == '"') {
+    text = text.substr(1, text.size() - 2);
+  }
+  return std::string(text);
+}
+
+std::string serverWording(std::string_view message) {
+  if (message == "incomplete input") return "Incorrect syntax at the end of the statement.";
+  for (const Wording& wording : wordings) {
+    if (message.starts_with(wording.engine)) {
+      return std::string(wording.before) + subject(message.substr(wording.engine.size())) +
+             std::string(wording.after);
+    }
+  }
+  return std::string(message);
+}
+
+int openFlags(Engine::Mode mode) {
+  switch (mode) {
+    case Engine::Mode::Create:
+      return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    case Engine::Mode::Memory:
+      return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MEMORY;
+    default:
+      return SQLITE_OPEN_READWRITE;
+  }
+}
+
+}  // namespace
+
+std::shared_ptr<Engine> Engine::open(const std::string& path, Mode mode) {
+  sqlite3* database = nullptr;
+  const int result = sqlite3_open_v2(path.c_str(), &database, openFlags(mode), nullptr);
+  std::shared_ptr<Engine> engine(new Engine(database, path));
+  if (result != SQLITE_OK) engine->fail(result);
+  sqlite3_extended_result_codes(database, 0);
+  sqlite3_busy_timeout(database, busyMilliseconds);
+  return engine;
+}
+
+Engine::~Engine() {
+  sqlite3_close_v2(database_);
+}
+
+void Engine::script(const std::string& sql) {
+  const int result = sqlite3_exec(database_, sql.c_str(), nullptr, nullptr, nullptr);
+  if (result != SQLITE_OK) fail(result);
+}
+
+std::int64_t Engine::changes() const {
+  return sqlite3_changes64(database_);
+}
+
+void Engine::fail(int result) const {
+  const std::string message = database_ ? sqlite3_errmsg(database_) : sqlite3_errstr(result);
+  const std::string file = "The database file '" + path_ + "' ";
+  switch (result) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      throw databaseError(file + "is in use by another program.");
+    case SQLITE_READONLY:
+      throw databaseError(file + "is read-only.");
+    case SQLITE_NOTADB:
+      throw databaseError("The file '" + path_ + "' is not a database.");
+    case SQLITE_CORRUPT:
+      throw databaseError(file + "is damaged.");
+    case SQLITE_CANTOPEN:
+      throw databaseError(file + "cannot be opened.");
+    case SQLITE_FULL:
+    case SQLITE_IOERR:
+      throw databaseError(file + "cannot be read or written: " + message + ".");
+    case SQLITE_CONSTRAINT:
+      throw RunTimeError(ado_error::constraint, message + ".");
+    default:
+      throw statementError(serverWording(message));
+  }
+}
+
+EngineStatement::EngineStatement(std::shared_ptr<Engine> engine, std::string_view sql)
+    : engine_(std::move(engine)) {
+  if (sql.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+    throw statementError("The statement is too long.");
+  }
+  const int result = sqlite3_prepare_v2(engine_->handle(), sql.data(), static_cast<int>(sql.size()),
+                                        &statement_, nullptr);
+  if (result != SQLITE_OK) engine_->fail(result);
+  readColumns();
+}
+
+EngineStatement::~EngineStatement() {
+  sqlite3_finalize(statement_);
+}
+
+EngineStatement::EngineStatement(EngineStatement&& other) noexcept
+    : engine_(std::move(other.engine_)),
+      statement_(std::exchange(other.statement_, nullptr)),
+      columns_(std::move(other.columns_)),
+      isBit_(std::move(other.isBit_)) {}
+
+void EngineStatement::readColumns() {
+  const int count = sqlite3_column_count(statement_);
+  for (int column = 0; column < count; ++column) {
+    const char* type = sqlite3_column_decltype(statement_, column);
+    const std::string name = sqlite3_column_name(statement_, column);
+    // Without "as", the engine names a computed column by its expression.
+    const bool unnamed = !type && name.find('(') != std::string::npos;
+    columns_.push_back(unnamed ? std::string() : name);
+    isBit_.push_back(type && std::string_view(type) == "bit");
+  }
+}
+
+void EngineStatement::bind(int position, const Value& value) {
+  int result = SQLITE_OK;
+  if (const auto* number = std::get_if<std::int64_t>(&value)) {
+    result = sqlite3_bind_int64(statement_, position, *number);
+  } else if (const auto* real = std::get_if<double>(&value)) {
+    result = sqlite3_bind_double(statement_, position, *real);
+  } else if (const auto* truth = std::get_if<bool>(&value)) {
+    result = sqlite3_bind_int(statement_, position, *truth ? 1 : 0);
+  } else if (const auto* text = std::get_if<std::string>(&value)) {
+    result = sqlite3_bind_text64(statement_, position, text->data(), text->size(), SQLITE_TRANSIENT,
+                                 SQLITE_UTF8);
+  } else {
+    result = sqlite3_bind_null(statement_, position);
+  }
+  if (result != SQLITE_OK) engine_->fail(result);
+}
+
+void EngineStatement::bind(const std::string& parameter, const Value& value) {
+  const int position = sqlite3_bind_parameter_index(statement_, parameter.c_str());
+  if (position > 0) bind(position, value);
+}
+
+bool EngineStatement::step() {
+  const int result = sqlite3_step(statement_);
+  if (result != SQLITE_ROW && result != SQLITE_DONE) engine_->fail(result);
+  return result == SQLITE_ROW;
+}
+
+void EngineStatement::reset() {
+  // Repeats the failure of the last step, which has been reported already.
+  static_cast<void>(sqlite3_reset(statement_));
+}
+
+Value EngineStatement::value(std::size_t column) const {
+  const int at = static_cast<int>(column);
+  switch (sqlite3_column_type(statement_, at)) {
+    case SQLITE_NULL:
+      return Null{};
+    case SQLITE_FLOAT:
+      return sqlite3_column_double(statement_, at);
+    case SQLITE_INTEGER: {
+      const std::int64_t number = sqlite3_column_int64(statement_, at);
+      if (isBit_[column]) return number != 0;
+      return number;
+    }
+    default: {
+      const auto* text = static_cast<const char*>(sqlite3_column_blob(statement_, at));
+      const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement_, at));
+      return text ? std::string(text, size) : std::string();
+    }
+  }
+}
+
+Transaction::Transaction(Engine& engine) : engine_(engine) {
+  engine_.script("begin immediate");
+}
+
+Transaction::~Transaction() {
+  if (open_) sqlite3_exec(engine_.handle(), "rollback", nullptr, nullptr, nullptr);
+}
+
+void Transaction::commit() {
+  engine_.script("commit");
+  open_ = false;
+}
+
+}  // namespace pelorin::site

@@ -1,0 +1,86 @@
+// Owners for the embedded engine's handles. Its failures come out as RunTimeError with the texts
+// and numbers that ADO would give for the server's.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "common/value.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace pelorin::site {
+
+class Engine : public std::enable_shared_from_this<Engine> {
+ public:
+  enum class Mode { Create, Open, Memory };
+  static std::shared_ptr<Engine> open(const std::string& path, Mode mode);
+
+  ~Engine();
+  Engine(const Engine&) = delete;
+  Engine& operator=(const Engine&) = delete;
+
+  // Runs the program's own statements, separated by semicolons.
+  void script(const std::string& sql);
+  // Rows that the last insert, update or delete touched.
+  std::int64_t changes() const;
+  sqlite3* handle() const { return database_; }
+
+  // Throws what the engine's result means; never returns.
+  [[noreturn]] void fail(int result) const;
+
+ private:
+  Engine(sqlite3* database, std::string path) : database_(database), path_(std::move(path)) {}
+
+  sqlite3* database_;
+  std::string path_;
+};
+
+// One statement; keeps the engine open while it lives.
+class EngineStatement {
+ public:
+  EngineStatement(std::shared_ptr<Engine> engine, std::string_view sql);
+  ~EngineStatement();
+  EngineStatement(EngineStatement&& other) noexcept;
+  EngineStatement(const EngineStatement&) = delete;
+  EngineStatement& operator=(const EngineStatement&) = delete;
+  EngineStatement& operator=(EngineStatement&&) = delete;
+
+  void bind(int position, const Value& value);                  // from 1
+  void bind(const std::string& parameter, const Value& value);  // ignored where it is not used
+  // True while there is a row.
+  bool step();
+  void reset();
+
+  // Empty names for columns that are computed and not named.
+  const std::vector<std::string>& columns() const { return columns_; }
+  Value value(std::size_t column) const;  // from 0
+
+ private:
+  void readColumns();
+
+  std::shared_ptr<Engine> engine_;
+  sqlite3_stmt* statement_ = nullptr;
+  std::vector<std::string> columns_;
+  std::vector<bool> isBit_;
+};
+
+// A transaction that is undone unless it is committed.
+class Transaction {
+ public:
+  explicit Transaction(Engine& engine);
+  ~Transaction();
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+  void commit();
+
+ private:
+  Engine& engine_;
+  bool open_ = true;
+};
+
+}  // namespace pelorin::site
