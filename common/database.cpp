@@ -27,14 +27,14 @@ std::size_t RecordSet::fetchBlock() {
 
 bool RecordSet::next(SourceLine where) {
   return withLine(where, [this] {
-    if (row_ == rows_ && cursor_) {
+    if (row_ == rows_) {
       cells_.clear();
       row_ = 0;
       rows_ = 0;
       rows_ = fetchBlock();
+      if (pending_) std::rethrow_exception(std::exchange(pending_, nullptr));
     }
-    if (row_ == rows_ && pending_) std::rethrow_exception(std::exchange(pending_, nullptr));
-    if (row_ == rows_) return false;
+    if (rows_ == 0) return false;
     ++row_;
     return true;
   });

@@ -21,6 +21,13 @@ std::shared_ptr<Reference> required(const std::shared_ptr<Reference>& reference,
   return reference;
 }
 
+// A database's description may have several lines; a report is one line of the log.
+std::string inOneLine(std::string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  return text;
+}
+
 }  // namespace
 
 std::shared_ptr<HostServices> Module1::NTConnection(SourceLine where) const {
@@ -32,6 +39,7 @@ std::shared_ptr<Connection> Module1::DBConnection(SourceLine where) const {
 }
 
 void Module1::ReportError(std::string_view procedure, const RunTimeError& error) noexcept {
+  ++reports_;
   try {
     const std::string text = std::string(procedure) + ": Line: " + std::to_string(error.line()) +
                              " :" + error.description();
@@ -46,7 +54,7 @@ void Module1::ReportError(std::string_view procedure, const RunTimeError& error)
 bool Module1::LogError(const std::string& message) noexcept {
   try {
     return environment_.appendLine(environment_.componentFolder() + "\\Pelorin.txt",
-                                   environment_.dateTimeText() + ": " + message);
+                                   environment_.dateTimeText() + ": " + inOneLine(message));
   } catch (...) {
     return false;
   }
@@ -66,9 +74,12 @@ bool Module1::MyPermissionGranted(std::int16_t componentType,
 }
 
 std::string Module1::ReadIniValue(const std::string& file, const std::string& section,
-                                  const std::string& key) const {
-  return environment_.privateProfileString(section, key, "NOTINITIALIZED", iniBufferCharacters + 1,
-                                           file);
+                                  const std::string& key) const noexcept {
+  std::string value = "NOTINITIALIZED";
+  errorOf([&] {
+    value = environment_.privateProfileString(section, key, value, iniBufferCharacters + 1, file);
+  });
+  return value;
 }
 
 std::string Module1::GetCCTVActionName(std::int16_t action) {

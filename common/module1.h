@@ -32,14 +32,18 @@ class Module1 {
   // Appends the report to the log file and shows it in a critical message box. Never throws; when
   // the log cannot be written the box is shown all the same.
   void ReportError(std::string_view procedure, const RunTimeError& error) noexcept;
+  // How many errors have been reported: who fills a form from many procedures sees whether one
+  // failed.
+  unsigned reportCount() const noexcept { return reports_; }
 
   // Resource text from the host; empty after an error (reported as "MPublic: GRS").
   std::string GRS(std::int32_t id, const Substitutions& texts = {}) noexcept;
   // False after an error (reported as "Module1.MyPermissionGranted").
   bool MyPermissionGranted(std::int16_t componentType, const std::string& subPermission) noexcept;
-  // At most 200 characters; "NOTINITIALIZED" when file, section or key is missing.
+  // At most 200 characters; "NOTINITIALIZED" when file, section or key is missing or cannot be
+  // read.
   std::string ReadIniValue(const std::string& file, const std::string& section,
-                           const std::string& key) const;
+                           const std::string& key) const noexcept;
   // Display name of a CCTV action, empty for an unknown one.
   std::string GetCCTVActionName(std::int16_t action);
 
@@ -53,6 +57,7 @@ class Module1 {
   Environment& environment_;
   std::shared_ptr<HostServices> services_;
   std::shared_ptr<Connection> database_;
+  unsigned reports_ = 0;
 };
 
 // The device classes a trigger action can act on.

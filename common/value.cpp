@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "controls/run_time_error.h"
+#include "controls/text_key.h"
 
 namespace pelorin {
 
@@ -130,7 +131,7 @@ std::int16_t toInt16(const Value& value) {
 
 bool toBoolean(const Value& value) {
   if (const auto* text = std::get_if<std::string>(&value)) {
-    return *text == "True" || *text == "true" || parseNumber(*text) != 0;
+    return equalNoCase(*text, "True") || parseNumber(*text) != 0;
   }
   return toReal(value) != 0;
 }

@@ -1,0 +1,60 @@
+// The rows of the summary's grid: seven cells each, the last two hidden and carrying the row's key.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "controls/grid.h"
+
+namespace pelorin {
+
+namespace summary_column {
+inline constexpr int trigger = 0;
+inline constexpr int location = 1;
+inline constexpr int action = 2;
+inline constexpr int type = 3;
+inline constexpr int device = 4;
+inline constexpr int triggerId = 5;
+inline constexpr int eventId = 6;
+inline constexpr int count = 7;
+}  // namespace summary_column
+
+struct SummaryRow {
+  std::string trigger;
+  std::string location;
+  std::string action;
+  std::string type;
+  std::string device;
+  std::int32_t triggerId = 0;
+  std::int32_t eventId = 0;
+};
+
+// Which trigger a row shows: its ID is unique within its type.
+struct SummaryKey {
+  std::string type;
+  std::int32_t triggerId = 0;
+  bool operator==(const SummaryKey&) const = default;
+};
+
+// Adds the row at the end. A TAB or line break inside a text becomes a blank: it would shift the
+// cells behind it.
+void addSummaryRow(Grid& grid, const SummaryRow& row);
+
+// Whether the row is one that can be edited and deleted.
+bool isDataRow(const Grid& grid, int row);
+SummaryKey keyOf(const Grid& grid, int row);
+// The trigger of the current row, if there is one.
+std::optional<SummaryKey> currentKey(const Grid& grid);
+// The row that shows the trigger, 0 when none does.
+int rowOf(const Grid& grid, const SummaryKey& key);
+
+// Both work around the grid's rule that the last row that is not fixed cannot be removed.
+void removeSummaryRow(Grid& grid, int row);
+void removeAllSummaryRows(Grid& grid);
+
+// Nothing is current; the keyboard goes on from `row`, or from the row nearest to it.
+void leaveCaretAt(Grid& grid, int row);
+
+}  // namespace pelorin
