@@ -1,6 +1,7 @@
 #include "controls/list_view.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "controls/run_time_error.h"
@@ -39,6 +40,38 @@ ListItem& ListView::add(int index, ListItem item) {
   if (selected_ > static_cast<int>(at)) ++selected_;
   notify(Aspect::Items);
   return added;
+}
+
+void ListView::requireAscending(const std::vector<ListInsertion>& insertions) const {
+  int least = 1;
+  for (const ListInsertion& insertion : insertions) {
+    if (insertion.before < least || insertion.before > count() + 1) {
+      throw RunTimeError(indexOutOfBounds, "Index out of bounds");
+    }
+    least = insertion.before;
+  }
+}
+
+void ListView::insert(std::vector<ListInsertion> insertions) {
+  if (insertions.empty()) return;
+  requireAscending(insertions);
+  std::vector<std::unique_ptr<ListItem>> merged;
+  merged.reserve(items_.size() + insertions.size());
+  auto rest = items_.begin();
+  const auto moveUpTo = [&](std::vector<std::unique_ptr<ListItem>>::iterator end) {
+    merged.insert(merged.end(), std::make_move_iterator(rest), std::make_move_iterator(end));
+    rest = end;
+  };
+  int passed = 0;
+  for (ListInsertion& insertion : insertions) {
+    moveUpTo(items_.begin() + (insertion.before - 1));
+    merged.push_back(std::make_unique<ListItem>(std::move(insertion.item)));
+    if (insertion.before <= selected_) ++passed;
+  }
+  moveUpTo(items_.end());
+  items_ = std::move(merged);
+  selected_ += passed;
+  notify(Aspect::Items);
 }
 
 void ListView::forgetKey(const ListItem& item) {

@@ -27,6 +27,14 @@ struct ListItem {
   std::vector<std::string> subItems;  // sub-item 1 is subItems[0]
   std::string tag;
   bool checked = false;
+  std::int32_t data = 0;  // what the form keeps with the row
+};
+
+// A row on its way into the list.
+struct ListInsertion {
+  int before;  // number, before any insertion, of the item that it goes in front of; count + 1:
+               // last
+  ListItem item;
 };
 
 class ListView : public Control {
@@ -42,6 +50,9 @@ class ListView : public Control {
   // Inserts before the item `index` (count + 1 or 0: at the end) and returns the item for its tag
   // to be set. Error 35602 when the key is not empty and already present (whatever its case).
   ListItem& add(int index, ListItem item);
+  // Inserts rows without keys at once, in ascending order of `before`; those with the same one keep
+  // their order. Error 35600 when the order is another one.
+  void insert(std::vector<ListInsertion> insertions);
   void remove(int index);
   // Removes every item for which `unwanted` answers true, walking from the last to the first.
   void removeIf(const std::function<bool(const ListItem&)>& unwanted);
@@ -62,6 +73,7 @@ class ListView : public Control {
 
  private:
   std::size_t slot(int index) const;
+  void requireAscending(const std::vector<ListInsertion>& insertions) const;
   void forgetKey(const ListItem& item);
 
   std::vector<ListColumn> columns_;

@@ -1,0 +1,58 @@
+#include "editor/device_classes.h"
+
+#include "common/combo_helpers.h"
+#include "common/guard.h"
+#include "editor/flag_while.h"
+
+namespace pelorin {
+
+DeviceClasses::DeviceClasses(Module1& module, TabControl& tabs, int page, Frame& fraCCTVAction,
+                             Frame& fraDVRAction)
+    : lblActionDeviceClass("lblActionDeviceClass", {180, 585, 1500, 255}, "Device Type:"),
+      cmbActionDeviceClass("cmbActionDeviceClass", {1800, 540, 4200, 330}),
+      module_(module),
+      fraCCTVAction_(fraCCTVAction),
+      fraDVRAction_(fraDVRAction) {
+  for (Control* control : controls()) control->setContainer(tabs, page);
+  cmbActionDeviceClass.onClick = [this] { cmbActionDeviceClass_Click(); };
+}
+
+void DeviceClasses::LoadDeviceClassCombo(ComboBox& combo) {
+  guarded(module_, "frmTriggerAction.LoadDeviceClassCombo", [&] {
+    const FlagWhile loading(m_bLoadingDeviceClasses);
+    combo.clear();
+    addClasses(combo);
+    selectFirstRow(combo);
+  });
+}
+
+void DeviceClasses::addClasses(ComboBox& combo) {
+  combo.addItem("CCTV", device_class::cctv);
+  RecordSet rows = module_.DBConnection()->open("select * from IntegratedDeviceclasses");
+  while (rows.next()) {
+    const std::int32_t id = rows.int32("IntegratedDeviceClassId");
+    if (id == device_class::dvr) combo.addItem(rows.text("Classname"), id);
+  }
+}
+
+void DeviceClasses::cmbActionDeviceClass_Click() {
+  if (m_bLoadingDeviceClasses) return;
+  guarded(module_, "frmTriggerAction.cmbActionDeviceClass_Click",
+          [this] { DisplayDeviceAction(cmbActionDeviceClass.selectedData()); });
+}
+
+void DeviceClasses::DisplayDeviceAction(std::int32_t deviceClass) {
+  guarded(module_, "frmTriggerAction.DisplayDeviceAction", [&] {
+    fraDVRAction_.setVisible(false);
+    fraCCTVAction_.setVisible(false);
+    SelectComboItemByData(cmbActionDeviceClass, deviceClass);
+    if (deviceClass == device_class::dvr) fraDVRAction_.setVisible(true);
+    if (deviceClass == device_class::cctv) fraCCTVAction_.setVisible(true);
+  });
+}
+
+std::int32_t DeviceClasses::selectedClass() const {
+  return cmbActionDeviceClass.listIndex() < 0 ? 0 : cmbActionDeviceClass.selectedData();
+}
+
+}  // namespace pelorin

@@ -1,0 +1,43 @@
+// The kind of device a trigger acts on, and the panel that goes with it.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "common/module1.h"
+#include "controls/item_lists.h"
+#include "controls/simple_controls.h"
+#include "controls/tab_control.h"
+
+namespace pelorin {
+
+class DeviceClasses {
+ public:
+  DeviceClasses(Module1& module, TabControl& tabs, int page, Frame& fraCCTVAction,
+                Frame& fraDVRAction);
+
+  Label lblActionDeviceClass;
+  ComboBox cmbActionDeviceClass;
+
+  std::vector<Control*> controls() { return {&lblActionDeviceClass, &cmbActionDeviceClass}; }
+
+  // "CCTV" and the classes of the database that the editor can save; selects the first one without
+  // showing its panel.
+  void LoadDeviceClassCombo(ComboBox& combo);
+  void cmbActionDeviceClass_Click();
+  // Selects the class, when the combo has it, and shows its panel alone; none for another class.
+  void DisplayDeviceAction(std::int32_t deviceClass);
+
+  // The class of the selected row, 0 without one.
+  std::int32_t selectedClass() const;
+
+ private:
+  void addClasses(ComboBox& combo);
+
+  Module1& module_;
+  Frame& fraCCTVAction_;
+  Frame& fraDVRAction_;
+  bool m_bLoadingDeviceClasses = false;
+};
+
+}  // namespace pelorin

@@ -1,0 +1,230 @@
+#include "editor/dvr_panel.h"
+
+#include <string>
+#include <string_view>
+
+#include "common/combo_helpers.h"
+#include "common/guard.h"
+#include "editor/flag_while.h"
+
+namespace pelorin {
+
+namespace {
+
+constexpr std::int32_t noPresetText = 2161;
+constexpr std::int32_t noViewGroupText = 3553;
+constexpr const char* usualDuration = "15";
+
+// A text of any length is a number here: more digits than these are beyond every limit anyway.
+double durationOf(std::string_view text) {
+  constexpr std::size_t digitsThatMatter = 300;
+  return parseNumber(text.substr(0, digitsThatMatter));
+}
+
+}  // namespace
+
+struct DvrPanel::StoredAction {
+  std::int32_t recorder;
+  std::int32_t camera;
+  std::int16_t standard;
+  double rate;
+  std::string duration;
+  std::int32_t preset;
+  std::int32_t viewGroup;
+  std::int32_t commandSet;
+
+  explicit StoredAction(const RecordSet& row)
+      : recorder(row.int32("ID_DVR_Config")),
+        camera(row.int32("CameraIndex")),
+        standard(knownStandard(row.int32("RecordStandard"))),
+        rate(row.real("RecordRate")),
+        duration(row.text("AlarmDuration")),
+        preset(row.int32("ptzPresetID")),
+        viewGroup(row.int32("ViewGroupID")),
+        commandSet(row.int32("CommandSetID")) {}
+};
+
+DvrPanel::DvrPanel(Module1& module, TabControl& tabs, int page)
+    : fraDVRAction("fraDVRAction", {180, 1080, 9600, 4400}, "Trigger Alarm on DVR"),
+      lblDVRUnit("lblDVRUnit", {240, 465, 3300, 255}, "DVR:"),
+      cmbDVRUnit("cmbDVRUnit", {3600, 420, 4500, 330}),
+      lblDVRCamera("lblDVRCamera", {240, 945, 3300, 255}, "Camera:"),
+      cmbDVRCamera("cmbDVRCamera", {3600, 900, 4500, 330}),
+      lblDVRRecordRate("lblDVRRecordRate", {240, 1425, 3300, 255}, "Record Rate:"),
+      cmbDVRRecordRate("cmbDVRRecordRate", {3600, 1380, 1800, 330}),
+      cmbRecordStandard("cmbRecordStandard", {5580, 1380, 1500, 330}),
+      lblDVRAlarmDuration("lblDVRAlarmDuration", {240, 1905, 3300, 255},
+                          "Alarm Duration (5-300 sec):"),
+      txtDVRAlarmDuration("txtDVRAlarmDuration", {3600, 1860, 1800, 330}, usualDuration),
+      lblDVRCameraPresets("lblDVRCameraPresets", {240, 2385, 3300, 255}, "Preset:"),
+      cmbDVRCameraPresets("cmbDVRCameraPresets", {3600, 2340, 4500, 330}),
+      lblDVRViewGroups("lblDVRViewGroups", {240, 2865, 9120, 255},
+                       "Optionally launch the Video Explorer window using this View Group:"),
+      cmbDVRViewGroups("cmbDVRViewGroups", {3600, 3180, 4500, 330}),
+      lblCommandSet("lblCommandSet", {240, 3705, 3300, 255}, "Execute command set:"),
+      cmbCommandSet("cmbCommandSet", {3600, 3660, 4500, 330}),
+      module_(module) {
+  for (Control* control : controls()) control->setContainer(fraDVRAction);
+  fraDVRAction.setContainer(tabs, page);
+  fraDVRAction.setVisible(false);
+  cmbRecordStandard.addItem("NTSC", record_standard::ntsc);
+  cmbRecordStandard.addItem("PAL", record_standard::pal);
+  cmbDVRUnit.onClick = [this] { cmbDVRUnit_Click(); };
+  cmbDVRCamera.onClick = [this] { cmbDVRCamera_Click(); };
+  cmbRecordStandard.onClick = [this] { cmbRecordStandard_Click(); };
+  txtDVRAlarmDuration.onKeyPress = txtDVRAlarmDuration_KeyPress;
+  txtDVRAlarmDuration.onValidate = [this] { txtDVRAlarmDuration_Validate(); };
+}
+
+std::vector<Control*> DvrPanel::controls() {
+  return {&fraDVRAction,        &lblDVRUnit,          &cmbDVRUnit,          &lblDVRCamera,
+          &cmbDVRCamera,        &lblDVRRecordRate,    &cmbDVRRecordRate,    &cmbRecordStandard,
+          &lblDVRAlarmDuration, &txtDVRAlarmDuration, &lblDVRCameraPresets, &cmbDVRCameraPresets,
+          &lblDVRViewGroups,    &cmbDVRViewGroups,    &lblCommandSet,       &cmbCommandSet};
+}
+
+void DvrPanel::LoadDVRAction(std::int32_t actionId) {
+  guarded(module_, "frmTriggerAction.LoadDVRAction", [&] {
+    LoadDVRUnitCombo(cmbDVRUnit);
+    LoadDVRVideoExplorerGroups(cmbDVRViewGroups);
+    RecordSet rows = module_.DBConnection()->open(
+        "select * from DVR_TriggerActions (NOLOCK) where DVRActionID = " +
+        std::to_string(actionId));
+    if (!rows.next()) return showNew();
+    const StoredAction stored(rows);
+    rows.close();
+    showStored(stored);
+  });
+}
+
+void DvrPanel::showNew() {
+  SelectComboItemByData(cmbRecordStandard, record_standard::ntsc);
+  selectFirstRow(cmbDVRViewGroups);
+  txtDVRAlarmDuration.setText(usualDuration);
+}
+
+void DvrPanel::showStored(const StoredAction& stored) {
+  SelectComboItemByData(cmbDVRUnit, stored.recorder);
+  SelectComboItemByData(cmbDVRCamera, stored.camera);
+  SelectComboItemByData(cmbRecordStandard, stored.standard);
+  std::int16_t standard = stored.standard;
+  cmbDVRRecordRate.setListIndex(rates_.FindRecordRateIndex(standard, stored.rate));
+  txtDVRAlarmDuration.setText(stored.duration);
+  SelectComboItemByData(cmbDVRCameraPresets, stored.preset);
+  SelectComboItemByData(cmbDVRViewGroups, stored.viewGroup);
+  SelectComboItemByData(cmbCommandSet, stored.commandSet);
+}
+
+void DvrPanel::LoadDVRUnitCombo(ComboBox& combo) {
+  guarded(module_, "frmTriggerAction.LoadDVRUnitCombo", [&] {
+    {
+      const FlagWhile loading(m_bLoadingDVRUnits);
+      RecordSet rows = module_.DBConnection()->open("select ID, DVRName from DVR_Config");
+      while (rows.next()) combo.addItem(rows.text("DVRName"), rows.int32("ID"));
+    }
+    selectFirstRow(combo);
+  });
+}
+
+void DvrPanel::cmbDVRUnit_Click() {
+  guarded(module_, "frmTriggerAction.cmbDVRUnit_Click", [this] {
+    if (m_bLoadingDVRUnits || cmbDVRUnit.listIndex() < 0) return;
+    const std::int32_t recorderId = cmbDVRUnit.selectedData();
+    LoadDVRCameraCombo(cmbDVRCamera, recorderId);
+    LoadCommandSetCombo(cmbCommandSet);
+    ConfigureFormByVendor(recorderId);
+  });
+}
+
+void DvrPanel::LoadDVRCameraCombo(ComboBox& combo, std::int32_t recorderId) {
+  guarded(module_, "frmTriggerAction.LoadDVRCameraCombo", [&] {
+    combo.clear();
+    cmbDVRCameraPresets.clear();
+    RecordSet rows = module_.DBConnection()->open(
+        "select CameraIndex, CameraName from DVR_Cameras where ID_DVR_Config = " +
+        std::to_string(recorderId) + " order by CameraIndex");
+    while (rows.next()) combo.addItem(rows.text("CameraName"), rows.int32("CameraIndex"));
+    selectFirstRow(combo);
+  });
+}
+
+void DvrPanel::cmbDVRCamera_Click() {
+  guarded(module_, "frmTriggerAction.cmbDVRCamera_Click", [this] {
+    LoadDVRCameraPresets(cmbDVRUnit.selectedData(), cmbDVRCameraPresets,
+                         cmbDVRCamera.selectedData());
+  });
+}
+
+void DvrPanel::LoadDVRCameraPresets(std::int32_t recorderId, ComboBox& combo,
+                                    std::int32_t cameraIndex) {
+  guarded(module_, "frmTriggerAction.LoadDVRCameraPresets", [&] {
+    combo.clear();
+    combo.addItem(module_.GRS(noPresetText), 0);
+    RecordSet rows = module_.DBConnection()->open(
+        "select ID, PresetName from DVR_PTZ_Preset where ID_DVR_Config = " +
+        std::to_string(recorderId) + " And CameraIndex = " + std::to_string(cameraIndex) +
+        " order by PresetName");
+    while (rows.next()) combo.addItem(rows.text("PresetName"), rows.int32("ID"));
+    selectFirstRow(combo);
+  });
+}
+
+void DvrPanel::ConfigureFormByVendor(std::int32_t recorderId) {
+  guarded(module_, "frmTriggerAction.ConfigureFormByVendor", [&] {
+    vendorType_ = 0;
+    RecordSet rows =
+        module_.DBConnection()->open("EXECUTE DVR_Getvendorinfo " + std::to_string(recorderId));
+    if (rows.next()) vendorType_ = rows.int16("DVRVendorID");
+    rows.close();
+    const bool takesDuration = vendorType_ != vendorWithoutDuration;
+    txtDVRAlarmDuration.setEnabled(takesDuration);
+    txtDVRAlarmDuration.setText(takesDuration ? usualDuration : "0");
+    cmbDVRCameraPresets.setEnabled(takesDuration);
+    if (!takesDuration) selectFirstRow(cmbDVRCameraPresets);
+  });
+}
+
+void DvrPanel::LoadCommandSetCombo(ComboBox& combo) {
+  guarded(module_, "frmTriggerAction.LoadCommandSetCombo", [&] {
+    combo.clear();
+    combo.addItem("<None>", 0);
+    const std::int32_t operatorId = module_.NTConnection()->OperatorID();
+    const std::int32_t workStationId = module_.NTConnection()->WorkStationID();
+    RecordSet rows = module_.DBConnection()->open(
+        "exec WOL_Roles_Fetch_Cached_Commandsets @operatorid=" + std::to_string(operatorId) +
+        ", @workstationid=" + std::to_string(workStationId));
+    while (rows.next()) combo.addItem(rows.text("Name"), rows.int32("ObjectID"));
+    selectFirstRow(combo);
+  });
+}
+
+void DvrPanel::LoadDVRVideoExplorerGroups(ComboBox& combo) {
+  guarded(module_, "frmTriggerAction.LoadDVRVideoExplorerGroups", [&] {
+    combo.clear();
+    combo.addItem(module_.GRS(noViewGroupText), 0);
+    RecordSet rows = module_.DBConnection()->open(
+        "select ID, Description from DVR_ViewGroups order by Description");
+    while (rows.next()) combo.addItem(rows.text("Description"), rows.int32("ID"));
+  });
+}
+
+void DvrPanel::cmbRecordStandard_Click() {
+  guarded(module_, "frmTriggerAction.cmbRecordStandard_Click", [this] {
+    auto standard = narrowInt16(cmbRecordStandard.selectedData());
+    rates_.LoadRecordRateCombo(cmbDVRRecordRate, standard);
+  });
+}
+
+void DvrPanel::txtDVRAlarmDuration_KeyPress(char32_t& key) {
+  constexpr char32_t backspace = 8;
+  const bool digit = key >= U'0' && key <= U'9';
+  if (!digit && key != backspace) key = 0;
+}
+
+void DvrPanel::txtDVRAlarmDuration_Validate() {
+  const double duration = durationOf(txtDVRAlarmDuration.text());
+  if (duration < 5) txtDVRAlarmDuration.setText("5");
+  if (duration > 300) txtDVRAlarmDuration.setText("300");
+}
+
+}  // namespace pelorin

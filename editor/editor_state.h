@@ -1,0 +1,19 @@
+// What the panels of one editor share: its mode and the IDs it works on.
+#pragma once
+
+#include <cstdint>
+
+namespace pelorin {
+
+struct EditorState {
+  std::int32_t m_TriggerID = 0;          // below 1: add mode
+  std::int16_t m_ActionDeviceClass = 0;  // read in edit mode only
+  std::int32_t m_ActionID = 0;
+  bool m_bVn8HardwareSupport = false;
+  // The edited trigger could not be read whole: writing what the controls hold would destroy it.
+  bool halfRead = false;
+
+  bool addMode() const noexcept { return m_TriggerID < 1; }
+};
+
+}  // namespace pelorin
