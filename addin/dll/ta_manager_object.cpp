@@ -1,0 +1,285 @@
+#include "addin/dll/ta_manager_object.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include "addin/dll/process.h"
+#include "addin/dll/type_library.h"
+#include "win32/com/ado_connection.h"
+#include "win32/com/late_bound_services.h"
+#include "win32/com/recognise.h"
+
+namespace pelorin {
+
+// Hosts hold records of this shape; the type library of each architecture describes its own.
+static_assert(sizeof(MorvatMessage) == (sizeof(void*) == 8 ? 56 : 48));
+static_assert(offsetof(MorvatMessage, EngineName) == 8);
+static_assert(offsetof(MorvatMessage, DateTimeDT) == 16);
+static_assert(offsetof(MorvatMessage, DateTimePC) == 24);
+static_assert(offsetof(MorvatMessage, Address) == 32);
+static_assert(offsetof(MorvatMessage, MessageDescription) == 32 + sizeof(void*));
+static_assert(offsetof(MorvatMessage, MessageValues) == 32 + 2 * sizeof(void*));
+
+namespace {
+
+// As in the type library.
+enum MemberId : DISPID {
+  inDesignId = 1,
+  activateId,
+  destroyId,
+  parentId,
+  ntConnectionId,
+  dbConnectionId,
+  raiseFormId,
+  onEventId,
+  onStreamId,
+  installId,
+  unInstallId,
+};
+
+constexpr std::array<VARTYPE, 8> eventTypes{VT_I4,   VT_I4,   VT_BSTR, VT_DATE,
+                                            VT_DATE, VT_BSTR, VT_BSTR, anyType};
+constexpr std::array<VARTYPE, 1> textType{VT_BSTR};
+
+HRESULT callOnEvent(TAManagerObject& object, const CallArguments& arguments) {
+  const Variant& values = arguments[7];
+  return object.OnEvent(arguments[0].lVal, arguments[1].lVal, arguments[2].bstrVal,
+                        arguments[3].date, arguments[4].date, arguments[5].bstrVal,
+                        arguments[6].bstrVal,
+                        values.vt == (VT_ARRAY | VT_VARIANT) ? values.parray : nullptr);
+}
+
+struct Method {
+  DISPID id;
+  std::span<const VARTYPE> types;
+  HRESULT (*call)(TAManagerObject&, const CallArguments&);
+};
+
+constexpr std::array<Method, 7> methods{{
+    {activateId,
+     {},
+     [](TAManagerObject& object, const CallArguments&) { return object.Activate(); }},
+    {destroyId, {}, [](TAManagerObject& object, const CallArguments&) { return object.Destroy(); }},
+    {raiseFormId,
+     {},
+     [](TAManagerObject& object, const CallArguments&) { return object.RaiseForm(); }},
+    {onEventId, eventTypes, callOnEvent},
+    {onStreamId, textType,
+     [](TAManagerObject& object, const CallArguments& arguments) {
+       return object.OnStream(arguments[0].bstrVal);
+     }},
+    {installId, textType,
+     [](TAManagerObject& object, const CallArguments& arguments) {
+       return object.Install(arguments[0].bstrVal);
+     }},
+    {unInstallId,
+     {},
+     [](TAManagerObject& object, const CallArguments&) { return object.UnInstall(); }},
+}};
+
+bool isObjectProperty(DISPID id) {
+  return id == parentId || id == ntConnectionId || id == dbConnectionId;
+}
+
+// The object properties pass over every error.
+template <class Work>
+HRESULT silently(Work&& work) noexcept {
+  try {
+    std::forward<Work>(work)();
+  } catch (...) {
+    return S_OK;
+  }
+  return S_OK;
+}
+
+}  // namespace
+
+TAManagerObject::TAManagerObject() : manager_(process::component()) {}
+
+STDMETHODIMP TAManagerObject::QueryInterface(REFIID id, void** object) noexcept {
+  if (object == nullptr) return E_POINTER;
+  *object = nullptr;
+  if (id == IID_IUnknown || id == IID_IDispatch || id == IID__TAManager) {
+    *object = static_cast<_TAManager*>(this);
+  } else if (id == IID_IProvideClassInfo) {
+    *object = static_cast<IProvideClassInfo*>(this);
+  } else {
+    return E_NOINTERFACE;
+  }
+  AddRef();
+  return S_OK;
+}
+
+STDMETHODIMP_(ULONG) TAManagerObject::AddRef() noexcept {
+  return references_.add();
+}
+
+STDMETHODIMP_(ULONG) TAManagerObject::Release() noexcept {
+  const ULONG left = references_.remove();
+  if (left == 0) delete this;
+  return left;
+}
+
+STDMETHODIMP TAManagerObject::get_InDesign(VARIANT_BOOL* result) noexcept {
+  if (result == nullptr) return E_POINTER;
+  *result = manager_.InDesign() ? VARIANT_TRUE : VARIANT_FALSE;
+  return S_OK;
+}
+
+STDMETHODIMP TAManagerObject::Activate() noexcept {
+  manager_.Activate();
+  return S_OK;
+}
+
+STDMETHODIMP TAManagerObject::Destroy() noexcept {
+  manager_.Destroy();
+  return S_OK;
+}
+
+STDMETHODIMP TAManagerObject::putref_Parent(IDispatch* obj) noexcept {
+  return silently([&] { setParent(obj); });
+}
+
+STDMETHODIMP TAManagerObject::putref_NTConnection(IDispatch* obj) noexcept {
+  return silently([&] { setServices(obj); });
+}
+
+STDMETHODIMP TAManagerObject::putref_DBConnection(IDispatch* obj) noexcept {
+  return silently([&] { setDatabase(obj); });
+}
+
+STDMETHODIMP TAManagerObject::RaiseForm() noexcept {
+  // The host may let go of the object while a box is open.
+  const ComPtr<_TAManager> self(this);
+  const HWND owner = liveWindow(parent_);
+  process::setHostWindow(owner);
+  manager_.RaiseForm(reinterpret_cast<WindowHandle>(owner));
+  return S_OK;
+}
+
+STDMETHODIMP TAManagerObject::OnEvent(LONG, LONG, BSTR, DATE, DATE, BSTR, BSTR,
+                                      SAFEARRAY*) noexcept {
+  return S_OK;
+}
+
+STDMETHODIMP TAManagerObject::OnStream(BSTR) noexcept {
+  manager_.OnStream();
+  return S_OK;
+}
+
+STDMETHODIMP TAManagerObject::Install(BSTR) noexcept {
+  manager_.Install();
+  return S_OK;
+}
+
+STDMETHODIMP TAManagerObject::UnInstall() noexcept {
+  manager_.UnInstall();
+  return S_OK;
+}
+
+void TAManagerObject::setParent(IUnknown* object) {
+  const HWND window = object == nullptr ? nullptr : windowOf(object);
+  if (window != nullptr) parent_ = window;
+}
+
+void TAManagerObject::setServices(IUnknown* object) {
+  ComPtr<IDispatch> services = ComPtr<IUnknown>(object).query<IDispatch>(IID_IDispatch);
+  process::component().module().setNTConnection(
+      services ? std::make_shared<LateBoundServices>(std::move(services)) : nullptr);
+}
+
+void TAManagerObject::setDatabase(IUnknown* object) {
+  if (object == nullptr || !isAdoConnection(object)) return;
+  ComPtr<IDispatch> connection = ComPtr<IUnknown>(object).query<IDispatch>(IID_IDispatch);
+  if (!connection) return;
+  process::component().module().setDBConnection(
+      std::make_shared<AdoConnection>(std::move(connection)));
+}
+
+HRESULT TAManagerObject::assign(DISPID id, const DISPPARAMS& parameters) {
+  if (parameters.cArgs != 1) return DISP_E_BADPARAMCOUNT;
+  const Variant value = resolved(parameters.rgvarg[0]);
+  if (value.vt != VT_DISPATCH && value.vt != VT_UNKNOWN) return S_OK;
+  return silently([&] {
+    if (id == parentId) setParent(value.punkVal);
+    if (id == ntConnectionId) setServices(value.punkVal);
+    if (id == dbConnectionId) setDatabase(value.punkVal);
+  });
+}
+
+HRESULT TAManagerObject::call(DISPID id, const DISPPARAMS& parameters, UINT& argument) {
+  const auto method = std::find_if(methods.begin(), methods.end(),
+                                   [id](const Method& known) { return known.id == id; });
+  if (method == methods.end()) return DISP_E_MEMBERNOTFOUND;
+  CallArguments arguments;
+  const HRESULT taken = arguments.take(parameters, method->types, argument);
+  return FAILED(taken) ? taken : method->call(*this, arguments);
+}
+
+STDMETHODIMP TAManagerObject::Invoke(DISPID id, REFIID reserved, LCID, WORD kind,
+                                     DISPPARAMS* parameters, VARIANT* result, EXCEPINFO*,
+                                     UINT* argument) noexcept {
+  if (reserved != GUID{}) return DISP_E_UNKNOWNINTERFACE;
+  if (parameters == nullptr) return E_INVALIDARG;
+  UINT unused = 0;
+  return boundary([&]() -> HRESULT {
+    if (result != nullptr) VariantInit(result);
+    const bool assignment = (kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+    if (assignment) return isObjectProperty(id) ? assign(id, *parameters) : DISP_E_MEMBERNOTFOUND;
+    if (id == inDesignId && (kind & DISPATCH_PROPERTYGET) != 0)
+      return readInDesign(*parameters, result);
+    if ((kind & DISPATCH_METHOD) == 0) return DISP_E_MEMBERNOTFOUND;
+    return call(id, *parameters, argument == nullptr ? unused : *argument);
+  });
+}
+
+HRESULT TAManagerObject::readInDesign(const DISPPARAMS& parameters, VARIANT* result) {
+  if (parameters.cArgs != 0) return DISP_E_BADPARAMCOUNT;
+  VARIANT_BOOL answer = VARIANT_FALSE;
+  const HRESULT read = get_InDesign(&answer);
+  if (result != nullptr) {
+    result->vt = VT_BOOL;
+    result->boolVal = answer;
+  }
+  return read;
+}
+
+ITypeInfo* TAManagerObject::typeInfo() {
+  if (!typeInfo_) typeInfo_ = ownTypeInfo(IID__TAManager);
+  return typeInfo_.get();
+}
+
+STDMETHODIMP TAManagerObject::GetTypeInfoCount(UINT* count) noexcept {
+  if (count == nullptr) return E_POINTER;
+  *count = 1;
+  return S_OK;
+}
+
+STDMETHODIMP TAManagerObject::GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept {
+  if (info == nullptr) return E_POINTER;
+  *info = nullptr;
+  if (index != 0) return DISP_E_BADINDEX;
+  return boundary([&] {
+    *info = ComPtr<ITypeInfo>(typeInfo()).release();
+    return S_OK;
+  });
+}
+
+STDMETHODIMP TAManagerObject::GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID,
+                                            DISPID* ids) noexcept {
+  if (reserved != GUID{}) return DISP_E_UNKNOWNINTERFACE;
+  if (names == nullptr || ids == nullptr) return E_POINTER;
+  return boundary([&] { return typeInfo()->GetIDsOfNames(names, count, ids); });
+}
+
+STDMETHODIMP TAManagerObject::GetClassInfo(ITypeInfo** info) noexcept {
+  if (info == nullptr) return E_POINTER;
+  *info = nullptr;
+  return boundary([&] {
+    *info = ownTypeInfo(CLSID_TAManager).release();
+    return S_OK;
+  });
+}
+
+}  // namespace pelorin

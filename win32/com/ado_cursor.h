@@ -1,0 +1,31 @@
+// The rows of an ADO Recordset, fetched in blocks; closed on destruction.
+#pragma once
+
+#include "common/database.h"
+#include "win32/com/late_bound.h"
+
+namespace pelorin {
+
+// Closes the record set at the end.
+struct OpenRows {
+  explicit OpenRows(LateBound opened) : rows(std::move(opened)) {}
+  OpenRows(const OpenRows&) = delete;
+  OpenRows& operator=(const OpenRows&) = delete;
+  ~OpenRows();
+
+  LateBound rows;
+};
+
+class AdoCursor : public Cursor {
+ public:
+  explicit AdoCursor(LateBound rows);
+
+  const std::vector<std::string>& columns() const override { return columns_; }
+  std::size_t fetch(std::size_t rows, std::vector<Value>& cells) override;
+
+ private:
+  OpenRows open_;
+  std::vector<std::string> columns_;
+};
+
+}  // namespace pelorin
