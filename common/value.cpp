@@ -43,8 +43,9 @@ std::size_t skipDigits(std::string_view text, std::size_t at) {
 // The part of `text` that is a number, without leading blanks and plus sign.
 std::string_view numberPart(std::string_view text) {
   while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
-  if (!text.empty() && text.front() == '+') text.remove_prefix(1);
-  std::size_t end = !text.empty() && text.front() == '-' ? 1 : 0;
+  const bool plus = text.starts_with('+');
+  if (plus) text.remove_prefix(1);
+  std::size_t end = !plus && text.starts_with('-') ? 1 : 0;
   end = skipDigits(text, end);
   if (end < text.size() && text[end] == '.') end = skipDigits(text, end + 1);
   return text.substr(0, end);
