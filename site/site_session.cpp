@@ -86,6 +86,10 @@ std::string callText(const ProcedureCall& call) {
   return "{ call " + call.procedure + text + (text.empty() ? " }" : ") }");
 }
 
+// What ADO says of the record set that such a statement leaves.
+constexpr std::int32_t closedObject = 3704;
+constexpr const char* closedObjectText = "Operation is not allowed when the object is closed.";
+
 class SiteConnection final : public Connection {
  public:
   explicit SiteConnection(std::shared_ptr<SiteSession> session) : session_(std::move(session)) {}
@@ -93,7 +97,7 @@ class SiteConnection final : public Connection {
  protected:
   std::unique_ptr<Cursor> openCursor(std::string_view sql) override {
     SiteResult result = session_->run(sql);
-    if (!result.rows) throw site::statementError("The statement returns no rows.");
+    if (!result.rows) throw RunTimeError(closedObject, closedObjectText);
     return std::move(result.rows);
   }
   void run(std::string_view sql) override { session_->run(sql); }
