@@ -49,6 +49,7 @@ void Form::userFocus(Control* control) {
   if (left != nullptr && left->kind() == ControlKind::TextBox) {
     static_cast<TextBox*>(left)->userLeave();
   }
+  if (view_ != nullptr) view_->focusMoved();
 }
 
 void Form::userPress(Button& button) {

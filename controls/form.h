@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/context_menu.h"
 #include "controls/simple_controls.h"
 
 namespace pelorin {
@@ -34,6 +35,8 @@ class FormView {
  public:
   virtual void captionChanged() = 0;
   virtual void sizeChanged() = 0;
+  // The form moved the focus to focused(), as pressing the default button does.
+  virtual void focusMoved() {}
 
  protected:
   ~FormView() = default;
@@ -82,6 +85,10 @@ class Form {
   // Sees every key before its control does; true when the key is used up.
   virtual bool Form_KeyDown(int keyCode);
 
+  // What a right click on the form offers.
+  ContextMenu& contextMenu() noexcept { return contextMenu_; }
+  const ContextMenu& contextMenu() const noexcept { return contextMenu_; }
+
   // The operator's acts on the form.
   Control* focused() const noexcept { return focused_; }
   void userFocus(Control* control);
@@ -116,6 +123,7 @@ class Form {
   Button* defaultButton_ = nullptr;
   Button* cancelButton_ = nullptr;
   Control* focused_ = nullptr;
+  ContextMenu contextMenu_;
   Screen* screen_ = nullptr;
   bool unloading_ = false;
   FormView* view_ = nullptr;

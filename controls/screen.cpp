@@ -5,11 +5,31 @@
 
 namespace pelorin {
 
+namespace {
+
+class Running {
+ public:
+  explicit Running(int& count) noexcept : count_(count) { ++count_; }
+  Running(const Running&) = delete;
+  Running& operator=(const Running&) = delete;
+  ~Running() { --count_; }
+
+ private:
+  int& count_;
+};
+
+}  // namespace
+
 void Screen::show(Form& form, WindowHandle owner) {
   if (form.isOpen()) {
     raiseWindow(form);
     return;
   }
+  load(form, owner);
+}
+
+void Screen::load(Form& form, WindowHandle owner) {
+  const Running running(running_);
   form.screen_ = this;
   form.focused_ = nullptr;
   open_.push_back(&form);
@@ -46,6 +66,7 @@ void Screen::unloadOwnedBy(const Form& form) {
 
 void Screen::unload(Form& form) {
   if (form.screen_ != this || form.unloading_) return;
+  const Running running(running_);
   form.unloading_ = true;
   unloadOwnedBy(form);
   form.Form_Unload();
@@ -72,6 +93,10 @@ WindowHandle Screen::setOwner(Form& form, WindowHandle owner) {
   const WindowHandle previous = std::exchange(entry->owner, owner);
   changeOwner(form, owner);
   return previous;
+}
+
+void Screen::collect() noexcept {
+  if (running_ == 0) retired_.clear();
 }
 
 void Screen::retire(std::unique_ptr<Form> form) {

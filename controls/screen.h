@@ -53,8 +53,9 @@ class Screen {
 
   // Keeps an unloaded form until no handler of any form can be on the call stack.
   void retire(std::unique_ptr<Form> form);
-  // Frees what was retired. Only for the outermost message loop.
-  void collect() noexcept { retired_.clear(); }
+  // Frees what was retired, unless a form is just being shown or unloaded. Only for the outermost
+  // message loop.
+  void collect() noexcept;
 
  protected:
   // Makes the window, hidden; its controls need not exist before presentWindow.
@@ -72,10 +73,12 @@ class Screen {
   };
   Owned* entryOf(const Form& form);
   void unloadOwnedBy(const Form& form);
+  void load(Form& form, WindowHandle owner);
 
   std::vector<Form*> open_;
   std::vector<Owned> owners_;
   std::vector<std::unique_ptr<Form>> retired_;
+  int running_ = 0;  // handlers of forms called from here that have not returned
 };
 
 // Shows the hourglass while it lives, then the pointer that was there before.

@@ -18,4 +18,8 @@ void TabControl::setTab(int tab) {
   notify(Aspect::Selection);
 }
 
+void TabControl::userSelect(int tab) {
+  if (reachable()) setTab(tab);
+}
+
 }  // namespace pelorin

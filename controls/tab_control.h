@@ -16,6 +16,8 @@ class TabControl : public Control {
   const std::vector<std::string>& captions() const noexcept { return captions_; }
   int tab() const noexcept { return tab_; }
   void setTab(int tab);
+  // The operator brings a page to the front.
+  void userSelect(int tab);
 
  private:
   std::vector<std::string> captions_;

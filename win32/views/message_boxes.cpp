@@ -1,0 +1,56 @@
+#include "win32/views/message_boxes.h"
+
+#include "win32/text/utf16.h"
+
+namespace pelorin {
+
+namespace {
+
+UINT flagsOf(const BoxRequest& request, bool hasOwner) {
+  UINT flags = request.buttons == BoxButtons::YesNo ? MB_YESNO : MB_OK;
+  if (request.icon == BoxIcon::Information) flags |= MB_ICONINFORMATION;
+  if (request.icon == BoxIcon::Question) flags |= MB_ICONQUESTION;
+  if (request.icon == BoxIcon::Critical) flags |= MB_ICONERROR;
+  // Nothing but an owner keeps a box in front of the host.
+  return hasOwner ? flags : flags | MB_SETFOREGROUND | MB_TOPMOST;
+}
+
+BoxAnswer answerOf(int result) {
+  if (result == IDYES) return BoxAnswer::Yes;
+  return result == IDOK ? BoxAnswer::Ok : BoxAnswer::No;
+}
+
+// Takes input from windows, and gives it back to those that had it, last taken first.
+class InputHeld {
+ public:
+  InputHeld(const std::vector<HWND>& windows, HWND except) {
+    for (HWND window : windows) {
+      if (window == except || !IsWindowEnabled(window)) continue;
+      EnableWindow(window, FALSE);
+      held_.push_back(window);
+    }
+  }
+  InputHeld(const InputHeld&) = delete;
+  InputHeld& operator=(const InputHeld&) = delete;
+  ~InputHeld() {
+    for (auto window = held_.rbegin(); window != held_.rend(); ++window) {
+      if (IsWindow(*window)) EnableWindow(*window, TRUE);
+    }
+  }
+
+ private:
+  std::vector<HWND> held_;
+};
+
+}  // namespace
+
+// The box itself holds its owner back, and gives it free before it closes.
+BoxAnswer showMessageBox(UiThread& ui, const BoxRequest& request, HWND owner,
+                         const std::vector<HWND>& ours) {
+  const std::wstring text = toWide(request.text);
+  const UiThread::ModalScope modal(ui);
+  const InputHeld held(ours, owner);
+  return answerOf(MessageBoxW(owner, text.c_str(), L"Pelorin", flagsOf(request, owner != nullptr)));
+}
+
+}  // namespace pelorin

@@ -1,0 +1,78 @@
+#include "win32/views/native_window.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "win32/text/utf16.h"
+#include "win32/views/firewall.h"
+#include "win32/views/windows_api.h"
+
+namespace pelorin {
+
+namespace {
+
+constexpr UINT_PTR subclassId = 1;
+
+}  // namespace
+
+NativeWindow::~NativeWindow() {
+  detach();
+}
+
+NativeWindow* NativeWindow::of(HWND window) noexcept {
+  DWORD_PTR self = 0;
+  if (window == nullptr || !GetWindowSubclass(window, &procedure, subclassId, &self)) {
+    return nullptr;
+  }
+  return reinterpret_cast<NativeWindow*>(self);
+}
+
+void NativeWindow::attach(HWND window) noexcept {
+  if (window == nullptr) return;
+  hwnd_ = window;
+  SetWindowSubclass(window, &procedure, subclassId, reinterpret_cast<DWORD_PTR>(this));
+}
+
+void NativeWindow::detach() noexcept {
+  const HWND window = std::exchange(hwnd_, nullptr);
+  if (window != nullptr) RemoveWindowSubclass(window, &procedure, subclassId);
+}
+
+void NativeWindow::destroy() noexcept {
+  if (hwnd_ != nullptr) DestroyWindow(hwnd_);
+}
+
+LRESULT NativeWindow::native(UINT message, WPARAM w, LPARAM l) const noexcept {
+  return hwnd_ == nullptr ? 0 : DefSubclassProc(hwnd_, message, w, l);
+}
+
+LRESULT NativeWindow::answerName(std::size_t capacity, wchar_t* buffer) const {
+  if (buffer == nullptr || capacity == 0) return 0;
+  const std::wstring name = toWide(designName());
+  const std::size_t length = std::min(name.size(), capacity - 1);
+  std::copy_n(name.begin(), length, buffer);
+  buffer[length] = L'\0';
+  return static_cast<LRESULT>(length + 1);
+}
+
+LRESULT NativeWindow::dispatch(UINT message, WPARAM w, LPARAM l) {
+  if (message == ui_.controlNameMessage()) return answerName(w, reinterpret_cast<wchar_t*>(l));
+  if (message == WM_SETCURSOR && ui_.showPointer()) return TRUE;
+  return onMessage(message, w, l);
+}
+
+LRESULT CALLBACK NativeWindow::procedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR,
+                                         DWORD_PTR selfAddress) noexcept {
+  NativeWindow& self = *reinterpret_cast<NativeWindow*>(selfAddress);
+  if (message == WM_NCDESTROY) {
+    // Whoever destroyed the window: from here on there is none.
+    self.detach();
+    return DefSubclassProc(window, message, w, l);
+  }
+  return shielded(LRESULT{0}, [&] {
+    const UiThread::Scope scope(self.ui_);
+    return self.dispatch(message, w, l);
+  });
+}
+
+}  // namespace pelorin

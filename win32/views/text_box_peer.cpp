@@ -1,0 +1,69 @@
+#include <algorithm>
+
+#include "win32/text/utf16.h"
+#include "win32/views/form_window.h"
+#include "win32/views/peers.h"
+
+namespace pelorin {
+
+namespace {
+
+std::wstring textOf(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+class TextBoxPeer final : public Peer {
+ public:
+  TextBoxPeer(FormWindow& window, TextBox& box) : Peer(window, box), box_(box) {}
+
+  RECT adjusted(const RECT& place) const override {
+    const int borders = 2 * GetSystemMetrics(SM_CYEDGE) + 2;
+    RECT rect = place;
+    rect.bottom = std::max<LONG>(rect.bottom, rect.top + window().fonts().lineHeight() + borders);
+    return rect;
+  }
+
+  void onCommand(UINT code) override {
+    if (code == EN_CHANGE && !applying() && live()) box_.userText(toUtf8(textOf(hwnd())));
+  }
+
+ protected:
+  NativeKind nativeKind() const override {
+    return {L"Edit", WS_TABSTOP | ES_AUTOHSCROLL | ES_LEFT, WS_EX_CLIENTEDGE};
+  }
+
+  // Characters are offered to the model one by one; pasted text is not.
+  LRESULT handle(UINT message, WPARAM w, LPARAM l) override {
+    if (message == WM_CHAR && live() && !keep(static_cast<wchar_t>(w))) return 0;
+    return native(message, w, l);
+  }
+
+ private:
+  // A character beyond 16 bits arrives in two halves and is judged as one with the second.
+  bool keep(wchar_t unit) {
+    if (IS_HIGH_SURROGATE(unit)) {
+      high_ = unit;
+      return true;
+    }
+    char32_t character = unit;
+    if (IS_LOW_SURROGATE(unit) && high_ != 0) {
+      character = 0x10000U + ((char32_t{high_} - 0xD800U) << 10U) + (char32_t{unit} - 0xDC00U);
+    }
+    high_ = 0;
+    return box_.userKey(character);
+  }
+
+  TextBox& box_;
+  wchar_t high_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<Peer> makeTextBoxPeer(FormWindow& window, TextBox& box) {
+  return std::make_unique<TextBoxPeer>(window, box);
+}
+
+}  // namespace pelorin
