@@ -66,6 +66,8 @@ std::shared_ptr<Engine> Engine::open(const std::string& path, Mode mode) {
   const int result = sqlite3_open_v2(path.c_str(), &database, openFlags(mode), nullptr);
   std::shared_ptr<Engine> engine(new Engine(database, path));
   if (result != SQLITE_OK) engine->fail(result);
+  // A file that cannot be written is opened for reading only, without a word.
+  if (sqlite3_db_readonly(database, "main") == 1) engine->fail(SQLITE_READONLY);
   sqlite3_extended_result_codes(database, 0);
   sqlite3_busy_timeout(database, busyMilliseconds);
   return engine;
