@@ -1,0 +1,39 @@
+#include "host/ado/ado_enums.h"
+
+#include "controls/run_time_error.h"
+
+namespace pelorin::host::ado {
+
+namespace {
+
+const char* textOf(std::int32_t number) {
+  switch (number) {
+    case error::invalidArgument:
+      return "Arguments are of the wrong type, are out of acceptable range, or are in conflict "
+             "with "
+             "one another.";
+    case error::noCurrentRecord:
+      return "Either BOF or EOF is True, or the current record has been deleted. Requested "
+             "operation requires a current record.";
+    case error::notSupported:
+      return "Current provider does not support the requested operation.";
+    case error::itemNotFound:
+      return "Item cannot be found in the collection corresponding to the requested name or "
+             "ordinal.";
+    case error::objectClosed:
+      return "Operation is not allowed when the object is closed.";
+    case error::objectOpen:
+      return "Operation is not allowed when the object is open.";
+    default:
+      return "The connection cannot be used to perform this operation. It is either closed or "
+             "invalid in this context.";
+  }
+}
+
+}  // namespace
+
+void fail(std::int32_t number) {
+  throw RunTimeError(number, textOf(number));
+}
+
+}  // namespace pelorin::host::ado

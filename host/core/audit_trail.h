@@ -1,0 +1,35 @@
+// The audit log as the host shows it: what the database file keeps, or, over another database, what
+// happened since the start.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "site/audit_log.h"
+
+namespace pelorin::host {
+
+class AuditTrail {
+ public:
+  AuditTrail() = default;
+  explicit AuditTrail(AuditLog file);
+
+  std::function<void()> onChange;
+
+  const std::vector<AuditRecord>& records() const noexcept { return records_; }
+
+  // Number and time are given here. A record that cannot be kept is not shown either.
+  void add(AuditRecord record);
+
+ private:
+  void readNew();
+
+  std::optional<AuditLog> file_;
+  std::vector<AuditRecord> records_;
+};
+
+// Local time, "2026-11-21 08:30:00".
+std::string localTimeText();
+
+}  // namespace pelorin::host

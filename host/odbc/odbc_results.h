@@ -1,0 +1,25 @@
+// Reads all results of an executed ODBC statement into memory.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "common/value.h"
+#include "host/odbc/odbc_handle.h"
+
+namespace pelorin::host {
+
+struct OdbcResult {
+  std::vector<std::string> columns;  // none: a statement that returns no rows
+  std::vector<Value> cells;          // row after row
+};
+
+struct OdbcResults {
+  std::vector<OdbcResult> results;
+  std::vector<ServerMessage> messages;
+};
+
+// A result that is nothing but a message of the server counts as no result.
+OdbcResults readResults(const OdbcStatement& statement, SQLRETURN executed);
+
+}  // namespace pelorin::host

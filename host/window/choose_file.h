@@ -1,0 +1,15 @@
+// The dialog that asks for a database file.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace pelorin::host {
+
+class DataSource;
+
+// An existing file or a new one; empty when the user gave up.
+std::string chooseDatabaseFile(HWND owner, const DataSource& current);
+
+}  // namespace pelorin::host
