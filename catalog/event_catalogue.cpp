@@ -23,6 +23,20 @@ EventTypeInfo readEventType(const RecordSet& rows) {
   return type;
 }
 
+// Empty for an event that is no alarm.
+std::string returnToNormalQuery(std::int32_t alarmEventId) {
+  if (alarmEventId >= 5000 && alarmEventId <= 5999) {
+    return "select ExternalEventId as RTNEventID from RetNormalMatrix where AlarmID = " +
+           numberText(alarmEventId);
+  }
+  if (alarmEventId >= 10000 && alarmEventId <= 10999) {
+    return "select IntegratedRTNId as RTNEventID from IntegratedRTNMatrix"
+           " where IntegratedAlarmID = " +
+           numberText(alarmEventId);
+  }
+  return {};
+}
+
 }  // namespace
 
 void EventCatalogue::InitEventTypeInfoArray() {
@@ -140,18 +154,10 @@ std::string EventCatalogue::GetFilterTypeByFilterIndex(std::int16_t filterIndex)
 }
 
 std::int32_t EventCatalogue::GetRTNEvent(std::int32_t alarmEventId) {
-  return guardedOr(module_, "Module1.GetRTNEvent", std::int32_t{0}, [&]() -> std::int32_t {
-    std::string sql;
-    if (alarmEventId >= 5000 && alarmEventId <= 5999) {
-      sql = "select ExternalEventId as RTNEventID from RetNormalMatrix where AlarmID = ";
-    } else if (alarmEventId >= 10000 && alarmEventId <= 10999) {
-      sql =
-          "select IntegratedRTNId as RTNEventID from IntegratedRTNMatrix where "
-          "IntegratedAlarmID = ";
-    } else {
-      return 0;
-    }
-    RecordSet rows = module_.DBConnection()->open(sql + numberText(alarmEventId));
+  const std::string query = returnToNormalQuery(alarmEventId);
+  if (query.empty()) return 0;
+  return guardedOr(module_, "Module1.GetRTNEvent", std::int32_t{0}, [&] {
+    RecordSet rows = module_.DBConnection()->open(query);
     return rows.next() ? rows.int32("RTNEventID") : 0;
   });
 }
