@@ -193,7 +193,8 @@ TEST_F(SiteFile, aReadOnlyFileIsReported) {
   fs::permissions(folder_, fs::perms::others_all, fs::perm_options::add);
   const std::string file = path("site.db");
   SiteDatabase::create(file, emptySite);
-  fs::permissions(file, fs::perms::owner_read | fs::perms::others_read);
+  const auto readers = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+  fs::permissions(file, readers);
   const OrdinaryUser user;
   EXPECT_EQ(openError(file), "The database file '" + file + "' is read-only.");
 }
