@@ -1,0 +1,227 @@
+// The three windows together: one of each, who owns whom, who reaches whom.
+#include "editor/frm_trigger_action.h"
+#include "tests/wiring/component_fixture.h"
+
+namespace pelorin::test {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+using ::testing::StartsWith;
+
+using RaiseForm = ComponentTest;
+using Windows = ComponentTest;
+
+TEST_F(RaiseForm, asksForTheRightToUseTheComponent) {
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(journal.lines(), Contains("host: Security(91, Pelorin - Use)"));
+}
+
+TEST_F(RaiseForm, showsTheSummaryOwnedByTheHost) {
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(openForms(), ElementsAre("frmTASummary"));
+  EXPECT_EQ(screen.owners["frmTASummary"], hostWindow);
+  EXPECT_THAT(screen.boxes, IsEmpty());
+}
+
+TEST_F(RaiseForm, showsTheSummaryWithoutOwnerWhenTheHostGaveNone) {
+  component.RaiseForm(0);
+  EXPECT_EQ(screen.owners["frmTASummary"], 0U);
+}
+
+TEST_F(RaiseForm, refusedShowsText3575AndNoWindow) {
+  services->permitted = false;
+  services->texts[3575] = "You may not use this.";
+  component.RaiseForm(hostWindow);
+  ASSERT_THAT(screen.boxTexts(), ElementsAre("You may not use this."));
+  EXPECT_EQ(screen.boxes[0].icon, BoxIcon::Information);
+  EXPECT_EQ(screen.boxes[0].buttons, BoxButtons::Ok);
+  EXPECT_THAT(openForms(), IsEmpty());
+}
+
+TEST_F(RaiseForm, asksForText3575WithoutSubstitutions) {
+  services->permitted = false;
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(journal.of("host: "),
+              ElementsAre("Security(91, Pelorin - Use)", "GetResourceString(3575)"));
+}
+
+TEST_F(RaiseForm, endsWithTheDefaultPointerWhetherGrantedOrRefused) {
+  for (const bool permitted : {true, false}) {
+    services->permitted = permitted;
+    screen.setMousePointer(MousePointer::Hourglass);
+    component.RaiseForm(hostWindow);
+    EXPECT_EQ(screen.mousePointer(), MousePointer::Default);
+  }
+}
+
+TEST_F(RaiseForm, endsWithTheDefaultPointerAfterAnError) {
+  screen.windowsFail = true;
+  screen.setMousePointer(MousePointer::Hourglass);
+  EXPECT_THROW(component.RaiseForm(hostWindow), RunTimeError);
+  EXPECT_EQ(screen.mousePointer(), MousePointer::Default);
+}
+
+TEST_F(RaiseForm, worksAgainAfterAWindowCouldNotBeMade) {
+  screen.windowsFail = true;
+  EXPECT_THROW(component.RaiseForm(hostWindow), RunTimeError);
+  EXPECT_THAT(openForms(), IsEmpty());
+  screen.windowsFail = false;
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(openForms(), ElementsAre("frmTASummary"));
+}
+
+TEST_F(RaiseForm, twiceAsksAgainAndBringsTheSummaryToTheFrontWithoutReload) {
+  component.RaiseForm(hostWindow);
+  journal.clear();
+  screen.windowEvents.clear();
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(journal.lines(), ElementsAre("host: Security(91, Pelorin - Use)"));
+  EXPECT_THAT(screen.windowEvents, ElementsAre("raise frmTASummary"));
+  EXPECT_THAT(openForms(), SizeIs(1));
+}
+
+TEST_F(RaiseForm, refusedWhileTheSummaryIsOpenKeepsTheWindow) {
+  component.RaiseForm(hostWindow);
+  services->permitted = false;
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(screen.boxTexts(), ElementsAre("#3575"));
+  EXPECT_THAT(openForms(), ElementsAre("frmTASummary"));
+}
+
+TEST_F(RaiseForm, withoutServicesReportsEachStepAndOpensNothing) {
+  component.module().setNTConnection(nullptr);
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(screen.boxTexts(), ElementsAre(StartsWith("Module1.MyPermissionGranted: Line: "),
+                                             StartsWith("MPublic: GRS: Line: "), ""));
+  EXPECT_THAT(environment.lines, SizeIs(2));
+  EXPECT_THAT(openForms(), IsEmpty());
+}
+
+TEST_F(RaiseForm, withoutConnectionReportsAndShowsAnEmptySummary) {
+  component.module().setDBConnection(nullptr);
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(screen.boxTexts(), Contains(HasSubstr("Object variable or With block variable")));
+  EXPECT_EQ(grid().rows(), 1);
+  EXPECT_FALSE(control<Button>("frmTASummary", "cmdAddEdit(1)").enabled());
+  EXPECT_FALSE(control<Button>("frmTASummary", "cmdDelete").enabled());
+}
+
+TEST_F(RaiseForm, usesTheServicesThatWereSetLast) {
+  Journal otherJournal;
+  auto other = std::make_shared<RecordingServices>(otherJournal);
+  other->permitted = false;
+  component.module().setNTConnection(other);
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(journal.of("host: "), IsEmpty());
+  EXPECT_THAT(otherJournal.of("host: "), SizeIs(2));
+}
+
+TEST_F(Windows, editorIsOwnedByTheSummary) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(0)");
+  EXPECT_THAT(openForms(), ElementsAre("frmTASummary", "frmTriggerAction"));
+  EXPECT_EQ(screen.owners["frmTriggerAction"], form("frmTASummary").hwnd());
+}
+
+TEST_F(Windows, addWhileTheEditorIsOpenKeepsItsTrigger) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(1)");
+  const auto* editor = screen.open<frmTriggerAction>("frmTriggerAction");
+  const std::int32_t trigger = editor->state().m_TriggerID;
+  ASSERT_GT(trigger, 0);
+  screen.windowEvents.clear();
+  press("frmTASummary", "cmdAddEdit(0)");
+  EXPECT_EQ(screen.open<frmTriggerAction>("frmTriggerAction"), editor);
+  EXPECT_EQ(editor->state().m_TriggerID, trigger);
+  EXPECT_EQ(editor->caption(), "Edit Trigger Action");
+  EXPECT_THAT(screen.windowEvents, ElementsAre("raise frmTriggerAction"));
+}
+
+TEST_F(Windows, editorThatWasClosedOpensForTheNextTrigger) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(1)");
+  press("frmTriggerAction", "cmdCancel");
+  press("frmTASummary", "cmdAddEdit(0)");
+  EXPECT_EQ(screen.open<frmTriggerAction>("frmTriggerAction")->state().m_TriggerID, 0);
+  EXPECT_EQ(form("frmTriggerAction").caption(), "Add Trigger Action");
+}
+
+TEST_F(Windows, pickerIsOwnedByTheEditor) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(0)");
+  press("frmTriggerAction", "cmdAddLocation");
+  EXPECT_THAT(openForms(), ElementsAre("frmTASummary", "frmTriggerAction", "FLocation"));
+  EXPECT_EQ(screen.owners["FLocation"], form("frmTriggerAction").hwnd());
+}
+
+TEST_F(Windows, pickerOpensInTheModeOfTheButton) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(0)");
+  press("frmTriggerAction", "cmdAddLocation");
+  EXPECT_EQ(control<Button>("FLocation", "cmdMain(1)").text(), "Close");
+  form("frmTriggerAction").unload();
+  press("frmTASummary", "cmdAddEdit(1)");
+  press("frmTriggerAction", "cmdSingleLocation");
+  EXPECT_EQ(control<Button>("FLocation", "cmdMain(1)").text(), "Cancel");
+}
+
+TEST_F(Windows, pickingWhileThePickerIsOpenBringsItToTheFront) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(0)");
+  press("frmTriggerAction", "cmdAddLocation");
+  screen.windowEvents.clear();
+  press("frmTriggerAction", "cmdAddLocation");
+  EXPECT_THAT(screen.windowEvents, ElementsAre("raise FLocation"));
+  EXPECT_THAT(openForms(), SizeIs(3));
+}
+
+TEST_F(Windows, closingTheSummaryUnloadsThePickerThenTheEditorAndNothingElse) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(0)");
+  press("frmTriggerAction", "cmdAddLocation");
+  journal.clear();
+  screen.windowEvents.clear();
+  press("frmTASummary", "cmdClose");
+  EXPECT_THAT(screen.windowEvents,
+              ElementsAre("destroy FLocation", "destroy frmTriggerAction", "destroy frmTASummary"));
+  EXPECT_THAT(journal.lines(), IsEmpty());
+  EXPECT_THAT(openForms(), IsEmpty());
+}
+
+TEST_F(Windows, everythingOpensAgainAfterEverythingWasClosed) {
+  for (int round = 0; round < 3; ++round) {
+    component.RaiseForm(hostWindow);
+    press("frmTASummary", "cmdAddEdit(0)");
+    press("frmTriggerAction", "cmdAddLocation");
+    EXPECT_THAT(openForms(), SizeIs(3));
+    form("frmTASummary").unload();
+    screen.collect();
+  }
+}
+
+TEST_F(Windows, saveReloadsTheSummary) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(1)");
+  const int rows = grid().rows();
+  database->execute("exec CCTV_Insert_TA 1, 1, 1, 0, 1, N'1', 1, N'', N'', 0, 0");
+  press("frmTriggerAction", "cmdOK");
+  EXPECT_EQ(grid().rows(), rows + 1);
+}
+
+TEST_F(Windows, unloadWithTheComponent) {
+  {
+    Component other(screen, environment);
+    other.module().setNTConnection(services);
+    other.module().setDBConnection(database);
+    other.RaiseForm(0);
+    EXPECT_THAT(openForms(), SizeIs(1));
+  }
+  EXPECT_THAT(openForms(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace pelorin::test
