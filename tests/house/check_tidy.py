@@ -34,7 +34,8 @@ class Unit:
         self.preset = preset
         self.file = pathlib.Path(entry["file"])
         self.name = self.file.relative_to(ROOT).as_posix()
-        self.arguments = [a for a in entry["command"].split() if re.match(r"-(I|D|std=|W|isystem)", a)]
+        words = entry["command"].replace("-isystem ", "-isystem").split()
+        self.arguments = [word for word in words if re.match(r"-(I|D|std=|W|isystem)", word)]
         self.arguments += ["-Wno-unknown-warning-option", "-include", str(SHIM), *EXTRA[preset]]
         self.headers = headers
 
