@@ -42,9 +42,9 @@ struct ImageStrip {
 };
 
 struct NodeTexts {
-  std::string key;
-  std::string text;
-  std::string tag;
+  std::string key = {};
+  std::string text = {};
+  std::string tag = {};
   int image = 0;
   int selectedImage = 0;
 };
