@@ -12,6 +12,8 @@ namespace pelorin {
 namespace {
 
 constexpr UINT_PTR subclassId = 1;
+// Leads from the window to its object.
+constexpr const wchar_t* objectProperty = L"Pelorin.NativeWindow";
 
 }  // namespace
 
@@ -20,22 +22,21 @@ NativeWindow::~NativeWindow() {
 }
 
 NativeWindow* NativeWindow::of(HWND window) noexcept {
-  DWORD_PTR self = 0;
-  if (window == nullptr || !GetWindowSubclass(window, &procedure, subclassId, &self)) {
-    return nullptr;
-  }
-  return reinterpret_cast<NativeWindow*>(self);
+  return static_cast<NativeWindow*>(GetPropW(window, objectProperty));
 }
 
 void NativeWindow::attach(HWND window) noexcept {
   if (window == nullptr) return;
   hwnd_ = window;
+  SetPropW(window, objectProperty, this);
   SetWindowSubclass(window, &procedure, subclassId, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void NativeWindow::detach() noexcept {
   const HWND window = std::exchange(hwnd_, nullptr);
-  if (window != nullptr) RemoveWindowSubclass(window, &procedure, subclassId);
+  if (window == nullptr) return;
+  RemovePropW(window, objectProperty);
+  RemoveWindowSubclass(window, &procedure, subclassId);
 }
 
 void NativeWindow::destroy() noexcept {

@@ -9,8 +9,20 @@ namespace pelorin {
 
 namespace {
 
-// Draws the content of accelerated windows too; older systems refuse the flag.
-constexpr UINT renderFullContent = 2;
+// What a window shows with its frame and its children, also where another window covers it.
+class WholeWindowDc {
+ public:
+  explicit WholeWindowDc(HWND window) noexcept
+      : window_(window), dc_(GetDCEx(window, nullptr, DCX_WINDOW | DCX_CACHE)) {}
+  WholeWindowDc(const WholeWindowDc&) = delete;
+  WholeWindowDc& operator=(const WholeWindowDc&) = delete;
+  ~WholeWindowDc() { ReleaseDC(window_, dc_); }
+  HDC get() const noexcept { return dc_; }
+
+ private:
+  HWND window_;
+  HDC dc_;
+};
 
 BITMAPINFO describe(LONG width, LONG height) {
   BITMAPINFO info{};
@@ -52,16 +64,16 @@ bool saveWindowPicture(HWND window, const std::filesystem::path& file) {
   RECT bounds{};
   if (GetWindowRect(window, &bounds) == 0 || IsRectEmpty(&bounds)) return false;
   BITMAPINFO info = describe(bounds.right - bounds.left, bounds.bottom - bounds.top);
-  const WindowDc screen(nullptr);
-  const MemoryDc memory(CreateCompatibleDC(screen.get()));
-  const Bitmap bitmap(
-      CreateCompatibleBitmap(screen.get(), info.bmiHeader.biWidth, info.bmiHeader.biHeight));
+  // Asking the controls to print themselves leaves out those that do not know how.
+  RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  const WholeWindowDc shown(window);
+  const LONG width = info.bmiHeader.biWidth;
+  const LONG height = info.bmiHeader.biHeight;
+  const MemoryDc memory(CreateCompatibleDC(shown.get()));
+  const Bitmap bitmap(CreateCompatibleBitmap(shown.get(), width, height));
   {
     const Selected selected(memory.get(), bitmap.get());
-    if (PrintWindow(window, memory.get(), renderFullContent) == 0 &&
-        PrintWindow(window, memory.get(), 0) == 0) {
-      return false;
-    }
+    if (BitBlt(memory.get(), 0, 0, width, height, shown.get(), 0, 0, SRCCOPY) == 0) return false;
   }
   const std::vector<char> pixels = pixelsOf(memory.get(), bitmap.get(), info);
   return !pixels.empty() && write(file, info, pixels);

@@ -1,0 +1,166 @@
+#include "tests/windows/views/desk.h"
+
+#include <array>
+
+#include "win32/text/utf16.h"
+
+namespace pelorin::test {
+
+namespace {
+
+constexpr DWORD patience = 5000;
+
+BOOL CALLBACK addWindow(HWND window, LPARAM list) {
+  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  return TRUE;
+}
+
+std::vector<HWND> childrenOf(HWND window) {
+  std::vector<HWND> children;
+  EnumChildWindows(window, &addWindow, reinterpret_cast<LPARAM>(&children));
+  return children;
+}
+
+INPUT keyInput(WORD key, bool up) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+  return input;
+}
+
+INPUT mouseInput(DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = flags;
+  return input;
+}
+
+void send(std::vector<INPUT> inputs) {
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+}  // namespace
+
+std::string nameOf(HWND window) {
+  const UINT message = RegisterWindowMessageW(L"WM_GETCONTROLNAME");
+  std::array<wchar_t, 100> buffer{};
+  const LRESULT written =
+      SendMessageW(window, message, buffer.size(), reinterpret_cast<LPARAM>(buffer.data()));
+  return written == 0 ? std::string() : toUtf8(buffer.data());
+}
+
+std::wstring textOf(HWND window) {
+  std::array<wchar_t, 1000> text{};
+  GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+  return text.data();
+}
+
+std::wstring classOf(HWND window) {
+  std::array<wchar_t, 100> name{};
+  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  return name.data();
+}
+
+bool isShown(HWND window) {
+  return IsWindowVisible(window) != 0;
+}
+
+std::vector<HWND> topLevelWindows() {
+  std::vector<HWND> windows;
+  EnumThreadWindows(GetCurrentThreadId(), &addWindow, reinterpret_cast<LPARAM>(&windows));
+  return windows;
+}
+
+Desk::Desk() : screen_(std::make_unique<NativeScreen>(GetModuleHandleW(nullptr))) {
+  host_ = CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 900, 700,
+                          nullptr, nullptr, nullptr, nullptr);
+  SetForegroundWindow(host_);
+  screen_->setHostWindow(hostHandle());
+  pump();
+}
+
+Desk::~Desk() {
+  screen_.reset();
+  destroyHost();
+  pump();
+}
+
+void Desk::destroyHost() {
+  if (host_ != nullptr) DestroyWindow(std::exchange(host_, nullptr));
+}
+
+void Desk::pump() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+bool Desk::pumpUntil(const std::function<bool()>& condition) {
+  const DWORD start = GetTickCount();
+  for (;;) {
+    pump();
+    if (condition()) return true;
+    const DWORD passed = GetTickCount() - start;
+    if (passed >= patience) return false;
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+  }
+}
+
+void Desk::open(Form& form) {
+  screen().show(form, hostHandle());
+  ASSERT_TRUE(pumpUntil([&] { return GetForegroundWindow() == windowOf(form); }));
+}
+
+HWND Desk::windowOf(const Form& form) const {
+  return reinterpret_cast<HWND>(screen_->windowOf(form));
+}
+
+HWND Desk::find(const Form& form, const std::string& controlName) const {
+  for (HWND window : childrenOf(windowOf(form))) {
+    if (nameOf(window) == controlName) return window;
+  }
+  return nullptr;
+}
+
+void Desk::press(WORD key, const std::vector<WORD>& held) {
+  std::vector<INPUT> inputs;
+  for (WORD modifier : held) inputs.push_back(keyInput(modifier, false));
+  inputs.push_back(keyInput(key, false));
+  inputs.push_back(keyInput(key, true));
+  for (auto modifier = held.rbegin(); modifier != held.rend(); ++modifier) {
+    inputs.push_back(keyInput(*modifier, true));
+  }
+  send(inputs);
+  pump();
+}
+
+void Desk::type(const std::wstring& text) {
+  for (wchar_t character : text) {
+    PostMessageW(GetFocus(), WM_CHAR, character, 1);
+    pump();
+  }
+}
+
+void Desk::click(HWND window, POINT at) {
+  ClientToScreen(window, &at);
+  SetCursorPos(at.x, at.y);
+  pump();
+  send({mouseInput(MOUSEEVENTF_LEFTDOWN), mouseInput(MOUSEEVENTF_LEFTUP)});
+  pump();
+}
+
+void Desk::clickMiddle(HWND window) {
+  RECT area{};
+  GetClientRect(window, &area);
+  click(window, {area.right / 2, area.bottom / 2});
+}
+
+std::string Desk::focusName() const {
+  return nameOf(GetFocus());
+}
+
+}  // namespace pelorin::test

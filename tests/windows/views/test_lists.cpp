@@ -1,0 +1,303 @@
+// Combo box, list box with check marks, list view and grid.
+#include "tests/windows/views/desk.h"
+#include "tests/windows/views/sample_form.h"
+#include "win32/views/windows_api.h"
+
+namespace pelorin::test {
+
+namespace {
+
+class Lists : public Desk {
+ protected:
+  void SetUp() override { open(form); }
+  HWND control(const std::string& name) const { return find(form, name); }
+  LRESULT ask(const std::string& name, UINT message, WPARAM w = 0, LPARAM l = 0) const {
+    return SendMessageW(control(name), message, w, l);
+  }
+  void wheelOver(const std::string& name) {
+    POINT at{5, 5};
+    ClientToScreen(control(name), &at);
+    PostMessageW(control(name), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), MAKELPARAM(at.x, at.y));
+    pump();
+  }
+  std::wstring cell(const std::string& name, int row, int column) const {
+    std::wstring text(100, L'\0');
+    LVITEMW item{};
+    item.iSubItem = column;
+    item.pszText = text.data();
+    item.cchTextMax = static_cast<int>(text.size());
+    const LRESULT length =
+        ask(name, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+    return item.pszText == nullptr
+               ? L""
+               : std::wstring(item.pszText).substr(0, static_cast<std::size_t>(length));
+  }
+  RECT rowRect(const std::string& name, int row, int part) const {
+    RECT rect{};
+    rect.left = part;
+    ask(name, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect));
+    return rect;
+  }
+  void clickRow(const std::string& name, int row) {
+    const RECT rect = rowRect(name, row, LVIR_LABEL);
+    click(control(name), {rect.left + 5, (rect.top + rect.bottom) / 2});
+  }
+  void clickCheck(int row) {
+    const RECT rect = rowRect("lvwEvents", row, LVIR_LABEL);
+    click(control("lvwEvents"), {rect.left - 8, (rect.top + rect.bottom) / 2});
+  }
+  UINT checkState(int row) const {
+    return static_cast<UINT>(
+               ask("lvwEvents", LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK)) >>
+           12U;
+  }
+  int selectedRow(const std::string& name) const {
+    return static_cast<int>(ask(name, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+  }
+  void clickFilter(int row) {
+    RECT rect{};
+    ask("lstFilters", LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect));
+    click(control("lstFilters"), {rect.left + 8, (rect.top + rect.bottom) / 2});
+  }
+  void showSecondPage() {
+    form.tabs.setTab(1);
+    pump();
+  }
+
+  SampleForm form;
+};
+
+}  // namespace
+
+TEST_F(Lists, AComboShowsRowsAndCurrentRowOfItsModel) {
+  EXPECT_EQ(ask("cmbKind", CB_GETCOUNT), 5);
+  EXPECT_EQ(ask("cmbKind", CB_GETCURSEL), CB_ERR);
+  form.cmbKind.clear();
+  form.cmbKind.addItem("Ü");
+  form.cmbKind.addItem("B");
+  form.cmbKind.setListIndex(1);
+  pump();
+  EXPECT_EQ(ask("cmbKind", CB_GETCOUNT), 2);
+  EXPECT_EQ(ask("cmbKind", CB_GETCURSEL), 1);
+  std::wstring text(10, L'\0');
+  ask("cmbKind", CB_GETLBTEXT, 0, reinterpret_cast<LPARAM>(text.data()));
+  EXPECT_STREQ(text.c_str(), L"Ü");
+}
+
+TEST_F(Lists, AnArrowInAComboPicksTheNextRow) {
+  clickMiddle(control("txtName"));
+  press(VK_TAB);
+  ASSERT_EQ(focusName(), "cmbKind");
+  press(VK_DOWN);
+  press(VK_DOWN);
+  EXPECT_EQ(form.cmbKind.listIndex(), 1);
+  EXPECT_EQ(form.count("click cmbKind"), 2);
+}
+
+TEST_F(Lists, AComboFollowsAHandlerThatChoosesAnotherRow) {
+  form.cmbKind.onClick = [&] { form.cmbKind.setListIndex(4); };
+  SetFocus(control("cmbKind"));
+  press(VK_DOWN);
+  EXPECT_EQ(ask("cmbKind", CB_GETCURSEL), 4);
+}
+
+TEST_F(Lists, TheWheelOverAClosedComboDoesNothing) {
+  form.cmbKind.setListIndex(2);
+  pump();
+  wheelOver("cmbKind");
+  SetFocus(control("cmbKind"));
+  wheelOver("cmbKind");
+  EXPECT_EQ(ask("cmbKind", CB_GETCURSEL), 2);
+  EXPECT_EQ(form.cmbKind.listIndex(), 2);
+}
+
+TEST_F(Lists, EnterClosesADroppedListAndPressesNoButton) {
+  SetFocus(control("cmbKind"));
+  ask("cmbKind", CB_SHOWDROPDOWN, TRUE);
+  pump();
+  press(VK_RETURN);
+  EXPECT_EQ(ask("cmbKind", CB_GETDROPPEDSTATE), 0);
+  EXPECT_EQ(form.count("click cmdOK"), 0);
+}
+
+TEST_F(Lists, OneClickTogglesOneFilter) {
+  clickFilter(1);
+  clickFilter(3);
+  EXPECT_TRUE(form.lstFilters.selected(1));
+  EXPECT_TRUE(form.lstFilters.selected(3));
+  clickFilter(1);
+  EXPECT_FALSE(form.lstFilters.selected(1));
+  EXPECT_EQ(ask("lstFilters", LB_GETSELCOUNT), 1);
+  EXPECT_EQ(form.count("click lstFilters"), 3);
+}
+
+TEST_F(Lists, TwoQuickClicksToggleAFilterTwice) {
+  clickFilter(0);
+  clickFilter(0);
+  EXPECT_FALSE(form.lstFilters.selected(0));
+  EXPECT_EQ(form.count("click lstFilters"), 2);
+}
+
+TEST_F(Lists, SpaceTogglesTheFilterUnderTheCaret) {
+  clickFilter(2);
+  press(VK_DOWN);
+  press(VK_SPACE);
+  EXPECT_TRUE(form.lstFilters.selected(3));
+}
+
+TEST_F(Lists, AFilterThatTheHandlerTicksAgainStaysTicked) {
+  clickFilter(2);
+  bool ticking = false;
+  form.lstFilters.onClick = [&] {
+    if (ticking) return;
+    ticking = true;
+    form.lstFilters.setSelected(2, true);
+    ticking = false;
+  };
+  clickFilter(2);
+  EXPECT_TRUE(form.lstFilters.selected(2));
+  EXPECT_GT(ask("lstFilters", LB_GETSEL, 2), 0);
+}
+
+TEST_F(Lists, FilterTextsAreThereForAccessibilityTools) {
+  std::wstring text(20, L'\0');
+  ask("lstFilters", LB_GETTEXT, 5, reinterpret_cast<LPARAM>(text.data()));
+  EXPECT_STREQ(text.c_str(), L"Filter 5");
+}
+
+TEST_F(Lists, AListViewAsksItsModelForTexts) {
+  EXPECT_EQ(ask("lvwEvents", LVM_GETITEMCOUNT), 30);
+  EXPECT_EQ(cell("lvwEvents", 0, 0), L"Type 1");
+  EXPECT_EQ(cell("lvwEvents", 9, 1), L"00010");
+  form.lvwEvents.remove(1);
+  pump();
+  EXPECT_EQ(ask("lvwEvents", LVM_GETITEMCOUNT), 29);
+  EXPECT_EQ(cell("lvwEvents", 0, 0), L"Type 2");
+}
+
+TEST_F(Lists, AClickOnTheBoxTogglesTheCheck) {
+  clickCheck(2);
+  EXPECT_TRUE(form.lvwEvents.item(3).checked);
+  EXPECT_EQ(checkState(2), 2U);
+  clickCheck(2);
+  EXPECT_FALSE(form.lvwEvents.item(3).checked);
+  EXPECT_EQ(form.count("check 3"), 2);
+}
+
+TEST_F(Lists, SpaceTogglesTheCheckOfTheFocusedRow) {
+  clickRow("lvwEvents", 1);
+  EXPECT_FALSE(form.lvwEvents.item(2).checked);
+  press(VK_SPACE);
+  EXPECT_TRUE(form.lvwEvents.item(2).checked);
+  press(VK_SPACE);
+  EXPECT_FALSE(form.lvwEvents.item(2).checked);
+}
+
+TEST_F(Lists, ChecksSetByTheProgramAreShown) {
+  form.lvwEvents.setAllChecked(true);
+  pump();
+  EXPECT_EQ(checkState(0), 2U);
+  EXPECT_EQ(checkState(29), 2U);
+  EXPECT_EQ(form.count("check 1"), 0);
+}
+
+TEST_F(Lists, AClickedRowIsSelectedOnce) {
+  clickRow("lvwEvents", 4);
+  EXPECT_EQ(form.lvwEvents.selectedIndex(), 5);
+  EXPECT_EQ(form.count("select 5"), 1);
+}
+
+TEST_F(Lists, TheSelectionStaysWithItsItemWhenRowsAreInserted) {
+  clickRow("lvwEvents", 4);
+  ListItem item;
+  item.text = "new";
+  form.lvwEvents.add(1, item);
+  pump();
+  EXPECT_EQ(selectedRow("lvwEvents"), 5);
+  EXPECT_EQ(form.count("select 6"), 0);
+}
+
+TEST_F(Lists, TypingFindsARowAndNoMatchLeavesTheSelection) {
+  clickRow("lvwEvents", 0);
+  type(L"zzz");
+  EXPECT_EQ(selectedRow("lvwEvents"), 0);
+}
+
+TEST_F(Lists, FiftyThousandRowsFollowInATwinkling) {
+  const DWORD start = GetTickCount();
+  for (int i = 0; i < 50000; ++i) {
+    ListItem item;
+    item.text = "row";
+    form.lvwEvents.add(0, item);
+  }
+  pump();
+  EXPECT_EQ(ask("lvwEvents", LVM_GETITEMCOUNT), 50030);
+  EXPECT_LT(GetTickCount() - start, 2000U);
+}
+
+TEST_F(Lists, AGridShowsDataRowsBelowItsHeaderWithoutHiddenColumns) {
+  showSecondPage();
+  const HWND header = reinterpret_cast<HWND>(ask("grid", LVM_GETHEADER));
+  EXPECT_EQ(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0), 3);
+  EXPECT_EQ(ask("grid", LVM_GETITEMCOUNT), 40);
+  EXPECT_EQ(cell("grid", 0, 0), L"Trigger 1");
+  EXPECT_EQ(cell("grid", 39, 1), L"00040");
+}
+
+TEST_F(Lists, TheCurrentRowOfAGridIsSelectedWithoutAnAct) {
+  showSecondPage();
+  form.grid.setRow(3);
+  pump();
+  EXPECT_EQ(selectedRow("grid"), 2);
+  form.grid.clearCurrentRow();
+  pump();
+  EXPECT_EQ(selectedRow("grid"), -1);
+  EXPECT_EQ(ask("grid", LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED), 2);
+}
+
+TEST_F(Lists, TheOperatorMovesTheCurrentRowByMouseAndKeys) {
+  showSecondPage();
+  clickRow("grid", 1);
+  EXPECT_EQ(form.grid.row(), 2);
+  press(VK_DOWN);
+  EXPECT_EQ(form.grid.row(), 3);
+}
+
+TEST_F(Lists, AClickOnEmptySpaceKeepsTheCurrentRow) {
+  form.grid.setRows(4);
+  showSecondPage();
+  clickRow("grid", 1);
+  RECT area{};
+  GetClientRect(control("grid"), &area);
+  click(control("grid"), {20, area.bottom - 5});
+  EXPECT_EQ(form.grid.row(), 2);
+  EXPECT_EQ(selectedRow("grid"), 1);
+}
+
+TEST_F(Lists, ADoubleClickOnARowReachesTheGrid) {
+  showSecondPage();
+  clickRow("grid", 1);
+  clickRow("grid", 1);
+  EXPECT_EQ(form.count("double-click grid"), 1);
+}
+
+TEST_F(Lists, TheScrollPlaceOfAGridIsKnownToTheModelAndObeyed) {
+  showSecondPage();
+  form.grid.setTopRow(11);
+  pump();
+  EXPECT_EQ(ask("grid", LVM_GETTOPINDEX), 10);
+  ask("grid", WM_VSCROLL, SB_LINEDOWN);
+  EXPECT_EQ(form.grid.topRow(), 12);
+  form.grid.setRow(1);
+  pump();
+  EXPECT_EQ(ask("grid", LVM_GETTOPINDEX), 11);
+}
+
+TEST_F(Lists, AGridWithoutDataRowsShowsItsHeaderOnly) {
+  form.grid.setRows(1);
+  showSecondPage();
+  EXPECT_EQ(ask("grid", LVM_GETITEMCOUNT), 0);
+  EXPECT_EQ(selectedRow("grid"), -1);
+}
+
+}  // namespace pelorin::test
