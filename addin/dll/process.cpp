@@ -27,7 +27,7 @@ Component& component() {
   return shared().component;
 }
 
-void setHostWindow(HWND window) {
+void setHostWindow(WindowHandle window) {
   shared().screen.setHostWindow(window);
 }
 

@@ -2,8 +2,6 @@
 // the references that the host handed over.
 #pragma once
 
-#include <windows.h>
-
 #include "addin/component.h"
 
 namespace pelorin::process {
@@ -13,7 +11,7 @@ namespace pelorin::process {
 Component& component();
 
 // Message boxes belong to this window while no window of the component is active.
-void setHostWindow(HWND window);
+void setHostWindow(WindowHandle window);
 
 // Whether a window of the component is open.
 bool hasOpenWindows() noexcept;

@@ -152,9 +152,9 @@ STDMETHODIMP TAManagerObject::putref_DBConnection(IDispatch* obj) noexcept {
 STDMETHODIMP TAManagerObject::RaiseForm() noexcept {
   // The host may let go of the object while a box is open.
   const ComPtr<_TAManager> self(this);
-  const HWND owner = liveWindow(parent_);
+  const auto owner = reinterpret_cast<WindowHandle>(liveWindow(parent_));
   process::setHostWindow(owner);
-  manager_.RaiseForm(reinterpret_cast<WindowHandle>(owner));
+  manager_.RaiseForm(owner);
   return S_OK;
 }
 
