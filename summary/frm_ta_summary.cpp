@@ -6,7 +6,6 @@
 #include "catalog/trigger_store.h"
 #include "common/guard.h"
 #include "controls/text_key.h"
-#include "summary/summary_grid.h"
 
 namespace pelorin {
 
@@ -158,7 +157,7 @@ void frmTASummary::LoadCCTVSummaryData(Grid& grid, LoadTexts& texts) {
       row.type = "CCTV";
       row.device = rows.text("SwitcherName");
       row.triggerId = rows.int32("TA_ID");
-      addSummaryRow(grid, row);
+      addRow(grid, row);
     }
   });
 }
@@ -178,8 +177,13 @@ void frmTASummary::LoadDeviceSummaryData(Grid& grid, LoadTexts& texts) {
     row.trigger = texts.trigger(row.eventId);
     row.location = rows.text("TriggerAddress");
     row.triggerId = rows.int32("TriggerID");
-    addSummaryRow(grid, row);
+    addRow(grid, row);
   }
+}
+
+// A report shown on the way lets the host run; it may have closed the window meanwhile.
+void frmTASummary::addRow(Grid& grid, const SummaryRow& row) {
+  if (isOpen()) addSummaryRow(grid, row);
 }
 
 void frmTASummary::RemoveAllRowsFromGrid(Grid& grid) {

@@ -8,6 +8,7 @@
 #include "common/form_links.h"
 #include "controls/grid.h"
 #include "summary/load_texts.h"
+#include "summary/summary_grid.h"
 
 namespace pelorin {
 
@@ -31,6 +32,7 @@ class frmTASummary : public Form {
   void LoadSummaryData(Grid& grid);
   void LoadCCTVSummaryData(Grid& grid, LoadTexts& texts);
   void LoadDeviceSummaryData(Grid& grid, LoadTexts& texts);
+  void addRow(Grid& grid, const SummaryRow& row);
   void RemoveAllRowsFromGrid(Grid& grid);
   std::string GetDVRActionDeviceName(std::int32_t actionId);
   void EnableEditButtons(bool dataRowsExist);
