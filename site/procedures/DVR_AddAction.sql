@@ -12,7 +12,7 @@
 insert into DVR_TriggerActions (ID_DVR_Config, CameraIndex, RecordRate, AlarmDuration, RecordStandard,
   ptzPresetID, ViewGroupID, CommandSetID)
 values (@ID_DVR_Config, @CameraIndex, @RecordRate, @AlarmDuration, @RecordStandard,
-  @PresetID, @ViewGroupID, @CommandSetID)
+  @PresetID, @ViewGroupID, @CommandSetID);
 set @DVRActionID = scope_identity()
 -- engine embedded
 insert into DVR_TriggerActions (ID_DVR_Config, CameraIndex, RecordRate, AlarmDuration, RecordStandard,

@@ -1,0 +1,186 @@
+#include "site/transact_sql.h"
+
+#include <utility>
+
+namespace pelorin::site {
+
+namespace {
+
+// A server takes at most 1000 rows in one insert, and takes its time over long ones.
+constexpr std::size_t rowsPerInsert = 100;
+
+std::string object(std::string_view name) {
+  return "dbo." + bracketed(name);
+}
+
+// N'dbo.[name]'
+std::string objectName(std::string_view name) {
+  return "N'" + object(name) + "'";
+}
+
+std::string nameList(const ColumnNames& names) {
+  std::string list;
+  for (const std::string& name : names) list += (list.empty() ? "" : ", ") + bracketed(name);
+  return list;
+}
+
+std::string columnType(const SqlType& type) {
+  return type.isText() ? "nvarchar(" + std::to_string(type.length) + ")" : sqlTypeText(type);
+}
+
+// Wider than the column, because the server cuts a text that is too long for a parameter without a
+// word, while an insert into the column fails as it should.
+std::string parameterType(const Parameter& parameter) {
+  if (parameter.type.isText() && !parameter.output) return "nvarchar(max)";
+  return columnType(parameter.type);
+}
+
+std::string columnDefinition(const Column& column) {
+  return "  " + bracketed(column.name) + " " + columnType(column.type) +
+         (column.identity ? " identity(1, 1)" : "") + (column.required ? " not null" : " null");
+}
+
+std::string indexName(const Table& table, const ColumnNames& columns) {
+  std::string name = "IX_" + table.name;
+  for (const std::string& column : columns) name += "_" + column;
+  return name;
+}
+
+void writeIndex(const Table& table, const ColumnNames& columns, const BatchSink& sink) {
+  const std::string name = indexName(table, columns);
+  sink("if object_id(" + objectName(table.name) + ", N'U') is not null and not exists (\n" +
+       "  select 1 from sys.indexes where object_id = object_id(" + objectName(table.name) +
+       ") and name = N'" + name + "')\ncreate index " + bracketed(name) + " on " +
+       object(table.name) + " (" + nameList(columns) + ")");
+}
+
+struct Character {
+  unsigned code = 0;
+  std::size_t bytes = 1;
+};
+
+Character characterAt(std::string_view text, std::size_t at) {
+  const auto byte = [&](std::size_t ahead) {
+    return at + ahead < text.size() ? static_cast<unsigned char>(text[at + ahead]) : 0U;
+  };
+  const unsigned first = byte(0);
+  const auto tail = [&](std::size_t ahead) { return byte(ahead) & 0x3FU; };
+  if (first < 0xC0U) return {first, 1};
+  if (first < 0xE0U) return {((first & 0x1FU) << 6U) | tail(1), 2};
+  if (first < 0xF0U) return {((first & 0x0FU) << 12U) | (tail(1) << 6U) | tail(2), 3};
+  return {((first & 0x07U) << 18U) | (tail(1) << 12U) | (tail(2) << 6U) | tail(3), 4};
+}
+
+std::string ncharCall(unsigned code) {
+  return "nchar(" + std::to_string(code) + ")";
+}
+
+// A character beyond the first plane is two units for the server.
+std::string ncharCalls(unsigned code) {
+  if (code < 0x10000U) return ncharCall(code);
+  const unsigned rest = code - 0x10000U;
+  return ncharCall(0xD800U + (rest >> 10U)) + " + " + ncharCall(0xDC00U + (rest & 0x3FFU));
+}
+
+}  // namespace
+
+std::string bracketed(std::string_view name) {
+  std::string text = "[";
+  for (const char c : name) text.append(c == ']' ? 2 : 1, c);
+  return text + "]";
+}
+
+std::string serverText(std::string_view text) {
+  std::string result = "N'";
+  for (std::size_t at = 0; at < text.size();) {
+    const Character character = characterAt(text, at);
+    const bool plain = character.code >= 0x20U && character.code < 0x7FU;
+    if (plain) {
+      result.append(text[at] == '\'' ? 2 : 1, text[at]);
+    } else {
+      result += "' + " + ncharCalls(character.code) + " + N'";
+    }
+    at += character.bytes;
+  }
+  return result + "'";
+}
+
+std::string serverLiteral(const SqlType& type, const Value& value) {
+  if (isNull(value)) return "null";
+  if (type.isText()) return serverText(toText(value));
+  if (type.kind == SqlType::Kind::Bit) return toBoolean(value) ? "1" : "0";
+  if (type.kind == SqlType::Kind::Float) return numberText(toReal(value)) + "e0";
+  return numberText(toInt64(value));
+}
+
+void writeTable(const Table& table, const BatchSink& sink) {
+  std::string sql = "if object_id(" + objectName(table.name) + ") is null\ncreate table " +
+                    object(table.name) + " (\n";
+  for (const Column& column : table.columns) sql += columnDefinition(column) + ",\n";
+  sql += "  constraint " + bracketed("PK_" + table.name) + " primary key (" +
+         nameList(table.key) + ")\n)";
+  sink(sql);
+  for (const ColumnNames& index : table.indexes) writeIndex(table, index, sink);
+}
+
+std::string procedureDefinition(const Procedure& procedure) {
+  std::string sql = "create procedure " + object(procedure.name);
+  for (const Parameter& parameter : procedure.parameters) {
+    sql += &parameter == &procedure.parameters.front() ? "\n  " : ",\n  ";
+    sql += parameter.name + " " + parameterType(parameter) + (parameter.output ? " output" : "");
+  }
+  return sql + "\nas\nset nocount on;\n" + procedure.serverBody;
+}
+
+// A definition must be a batch of its own, so that a conditional one can only be a text.
+void writeProcedure(const Procedure& procedure, const BatchSink& sink) {
+  std::string text;
+  for (const char c : procedureDefinition(procedure)) text.append(c == '\'' ? 2 : 1, c);
+  sink("if object_id(" + objectName(procedure.name) + ") is null\nexec (N'" + text + "')");
+}
+
+ServerRows::ServerRows(BatchSink sink) : sink_(std::move(sink)) {
+  std::string empty;
+  for (const Table& table : siteSchema().tables()) {
+    empty += empty.empty() ? "if " : "\n  and ";
+    empty += "not exists (select 1 from " + object(table.name) + ")";
+  }
+  sink_("set xact_abort on");
+  sink_(empty +
+        "\nbegin transaction\n"
+        "else print N'There are rows already; nothing is added.'");
+}
+
+void ServerRows::begin(const Table& table, const ColumnNames& columns) {
+  flush();
+  table_ = &table;
+  columns_ = columns;
+}
+
+void ServerRows::row(const Row& row) {
+  std::string cells;
+  for (std::size_t at = 0; at < row.size(); ++at) {
+    cells += (at == 0 ? "(" : ", ") + serverLiteral(table_->column(columns_[at])->type, row[at]);
+  }
+  rows_.push_back(cells + ")");
+  if (rows_.size() == rowsPerInsert) flush();
+}
+
+void ServerRows::flush() {
+  if (rows_.empty()) return;
+  const bool identity = table_->hasIdentity();
+  std::string sql = "if @@trancount > 0\nbegin\n";
+  if (identity) sql += "set identity_insert " + object(table_->name) + " on;\n";
+  sql += "insert into " + object(table_->name) + " (" + nameList(columns_) + ") values\n";
+  for (const std::string& row : rows_) sql += row + (&row == &rows_.back() ? ";\n" : ",\n");
+  if (identity) sql += "set identity_insert " + object(table_->name) + " off;\n";
+  sink_(sql + "end");
+  rows_.clear();
+}
+
+void ServerRows::finish() {
+  flush();
+  sink_("if @@trancount > 0 commit transaction");
+}
+
+}  // namespace pelorin::site
