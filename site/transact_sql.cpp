@@ -117,8 +117,8 @@ void writeTable(const Table& table, const BatchSink& sink) {
   std::string sql = "if object_id(" + objectName(table.name) + ") is null\ncreate table " +
                     object(table.name) + " (\n";
   for (const Column& column : table.columns) sql += columnDefinition(column) + ",\n";
-  sql += "  constraint " + bracketed("PK_" + table.name) + " primary key (" +
-         nameList(table.key) + ")\n)";
+  sql += "  constraint " + bracketed("PK_" + table.name) + " primary key (" + nameList(table.key) +
+         ")\n)";
   sink(sql);
   for (const ColumnNames& index : table.indexes) writeIndex(table, index, sink);
 }
