@@ -23,7 +23,5 @@ function(pelorin_dist)
     COMMAND ${CMAKE_COMMAND} -E rm -rf ${PELORIN_DIST_DIR}
     COMMAND ${CMAKE_COMMAND} --install ${CMAKE_BINARY_DIR} --prefix ${PELORIN_DIST_DIR} --strip
     COMMENT "Assembling ${PELORIN_DIST_DIR}" VERBATIM)
-  if(shipped)
-    add_dependencies(dist ${shipped})
-  endif()
+  add_dependencies(dist picture_strip ${shipped})
 endfunction()
