@@ -49,9 +49,12 @@ class ListBoxPeer final : public Peer {
     if ((changed & (bit(Aspect::Items) | bit(Aspect::Checks))) != 0) showMarks();
   }
 
-  // The second of two quick clicks is a click like any other.
+  // The second of two quick clicks is a click like any other. Not every system reports the row that
+  // Space toggled.
   LRESULT handle(UINT message, WPARAM w, LPARAM l) override {
-    return native(message == WM_LBUTTONDBLCLK ? WM_LBUTTONDOWN : message, w, l);
+    const LRESULT result = native(message == WM_LBUTTONDBLCLK ? WM_LBUTTONDOWN : message, w, l);
+    if (message == WM_KEYDOWN && w == VK_SPACE) act(1);
+    return result;
   }
 
   // The native selection says what the operator wants; the model decides.

@@ -1,6 +1,10 @@
 #include "tests/windows/views/desk.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 #include "win32/text/utf16.h"
 
@@ -41,7 +45,32 @@ void send(std::vector<INPUT> inputs) {
   SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
+// Wine counts no resources, but keeps the table of handles where Windows has it.
+int gdiObjectsInTable() {
+  struct Entry {
+    std::uint64_t object;
+    std::uint32_t owner;
+    std::uint16_t unique;
+    std::uint8_t type;
+    std::uint8_t flags;
+    std::uint64_t user;
+  };
+  constexpr std::size_t entries = 0x4000;
+  constexpr std::size_t field = sizeof(void*) == 8 ? 0xF8 : 0x94;
+  const FARPROC ask = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetCurrentPeb");
+  const auto block = reinterpret_cast<const std::byte*(WINAPI*)()>(reinterpret_cast<void*>(ask));
+  const Entry* table = nullptr;
+  std::memcpy(&table, block() + field, sizeof table);
+  return static_cast<int>(
+      std::count_if(table, table + entries, [](const Entry& entry) { return entry.type != 0; }));
+}
+
 }  // namespace
+
+int gdiObjects() {
+  const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  return counted != 0 ? static_cast<int>(counted) : gdiObjectsInTable();
+}
 
 std::string nameOf(HWND window) {
   const UINT message = RegisterWindowMessageW(L"WM_GETCONTROLNAME");

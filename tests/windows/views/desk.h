@@ -48,5 +48,7 @@ std::wstring textOf(HWND window);
 std::wstring classOf(HWND window);
 bool isShown(HWND window);
 std::vector<HWND> topLevelWindows();
+// Fonts, bitmaps, regions and the like that this process holds.
+int gdiObjects();
 
 }  // namespace pelorin::test

@@ -16,6 +16,7 @@ namespace pelorin::test {
 class SampleForm : public Form {
  public:
   SampleForm();
+  ~SampleForm() override { unload(); }
 
   // What happened, in order, such as "click cmdOK".
   std::vector<std::string> events;
