@@ -12,7 +12,7 @@ Variant::Variant(const Variant& other) : VARIANT{} {
   check(VariantCopy(this, &source));
 }
 
-Variant::Variant(Variant&& other) noexcept : VARIANT(std::exchange<VARIANT>(other, VARIANT{})) {}
+Variant::Variant(Variant&& other) noexcept : VARIANT(other.release()) {}
 
 Variant& Variant::operator=(Variant other) noexcept {
   std::swap<VARIANT>(*this, other);
@@ -76,6 +76,10 @@ Variant Variant::reference(LONG& number) noexcept {
   variant.vt = VT_BYREF | VT_I4;
   variant.plVal = &number;
   return variant;
+}
+
+VARIANT Variant::release() noexcept {
+  return std::exchange<VARIANT>(*this, VARIANT{});
 }
 
 VARIANT* Variant::put() noexcept {

@@ -32,6 +32,8 @@ class Variant : public VARIANT {
   // VT_BYREF|VT_I4: the called side may write to `number`.
   static Variant reference(LONG& number) noexcept;
 
+  // The value for somebody else to own.
+  VARIANT release() noexcept;
   // For results: clears what is held.
   VARIANT* put() noexcept;
 

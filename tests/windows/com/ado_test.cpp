@@ -1,0 +1,228 @@
+// The ADO adapter over ADO-shaped objects.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/windows/com/class_object.h"
+#include "tests/windows/com/fake_ado.h"
+#include "win32/com/ado_connection.h"
+#include "win32/com/ado_constants.h"
+
+namespace pelorin::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+struct AdoTest : ::testing::Test {
+  FakeAdo ado;
+  std::shared_ptr<Connection> connection =
+      std::make_shared<AdoConnection>(ComPtr<IDispatch>(ado.connection.get()));
+
+  static FakeResult numbers(int count) {
+    FakeResult result{{"ID"}, {}};
+    for (int i = 0; i < count; ++i) result.rows.push_back({Variant::int32(i)});
+    return result;
+  }
+};
+
+TEST_F(AdoTest, readsRowsByNameAndPosition) {
+  ado.give("select",
+           {{"ID", "Name"},
+            {{Variant::int32(1), Variant::text("one")}, {Variant::int32(2), Variant::null()}}});
+  RecordSet rows = connection->open("select");
+  ASSERT_TRUE(rows.next());
+  EXPECT_EQ(rows.int32("id"), 1);
+  EXPECT_EQ(rows.text("NAME"), "one");
+  ASSERT_TRUE(rows.next());
+  EXPECT_EQ(rows.int32(0), 2);
+  EXPECT_EQ(rows.text(1), "");
+  EXPECT_FALSE(rows.next());
+}
+
+TEST_F(AdoTest, resultWithoutRowsHasItsColumns) {
+  ado.give("select", {{"ID"}, {}});
+  RecordSet rows = connection->open("select");
+  EXPECT_FALSE(rows.next());
+  EXPECT_EQ(*ado.openRecordsets, 0);
+}
+
+TEST_F(AdoTest, readsInBlocks) {
+  ado.give("select", numbers(1201));
+  RecordSet rows = connection->open("select");
+  int count = 0;
+  while (rows.next()) EXPECT_EQ(rows.int32("ID"), count++);
+  EXPECT_EQ(count, 1201);
+  EXPECT_THAT(*ado.blockSizes, SizeIs(3));
+}
+
+TEST_F(AdoTest, statementIsSentAsText) {
+  connection->open("exec A 1");
+  EXPECT_THAT(ado.connection->calls(), ElementsAre("Execute(BSTR exec A 1, MISSING, I4 1)"));
+}
+
+TEST_F(AdoTest, statementWithoutResultAsksForNone) {
+  connection->execute("exec A 1");
+  EXPECT_THAT(ado.connection->calls(), ElementsAre("Execute(BSTR exec A 1, MISSING, I4 129)"));
+}
+
+TEST_F(AdoTest, closesTheRecordSetWhenAllOrNothingWasRead) {
+  ado.give("select", numbers(3));
+  {
+    RecordSet rows = connection->open("select");
+    rows.next();
+    EXPECT_EQ(*ado.openRecordsets, 1);
+  }
+  EXPECT_EQ(*ado.openRecordsets, 0);
+}
+
+TEST_F(AdoTest, closesTheRecordSetWhenItsColumnsCannotBeRead) {
+  auto broken = FakeObject::make();
+  int closed = 0;
+  broken->on(L"State", answer(Variant::int32(1)))
+      .on(L"Fields", fail(E_FAIL, L"gone"))
+      .on(L"Close", [&](Call&) {
+        ++closed;
+        return S_OK;
+      });
+  auto object = FakeObject::make();
+  object->on(L"Execute", answerObject(broken));
+  AdoConnection other{ComPtr<IDispatch>(object.get())};
+  EXPECT_THROW(other.open("select"), RunTimeError);
+  EXPECT_EQ(closed, 1);
+}
+
+TEST_F(AdoTest, closesTheRecordSetWhenAFetchFails) {
+  auto object = FakeObject::make();
+  auto rowsObject = FakeObject::make();
+  auto fields = FakeObject::make();
+  int closed = 0;
+  fields->on(L"Count", answer(Variant::int32(0)));
+  rowsObject->on(L"State", answer(Variant::int32(1)))
+      .on(L"Fields", answerObject(fields))
+      .on(L"EOF", answer(Variant::int16(0)))
+      .on(L"GetRows", fail(E_FAIL, L"connection lost"))
+      .on(L"Close", [&](Call&) {
+        ++closed;
+        return E_FAIL;
+      });
+  object->on(L"Execute", answerObject(rowsObject));
+  AdoConnection other{ComPtr<IDispatch>(object.get())};
+  {
+    RecordSet rows = other.open("select");
+    EXPECT_THROW(rows.next(), RunTimeError);
+  }
+  EXPECT_EQ(closed, 1);
+}
+
+TEST_F(AdoTest, skipsRowCountsInFrontOfTheRows) {
+  auto counts = FakeObject::make();
+  counts->on(L"State", answer(Variant::int32(0)))
+      .on(L"NextRecordset", answerObject(ado.recordset(numbers(1))));
+  auto object = FakeObject::make();
+  object->on(L"Execute", answerObject(counts));
+  AdoConnection other{ComPtr<IDispatch>(object.get())};
+  RecordSet rows = other.open("exec WritesFirst");
+  EXPECT_TRUE(rows.next());
+}
+
+TEST_F(AdoTest, statementWithoutRowsCannotBeRead) {
+  auto counts = FakeObject::make();
+  counts->on(L"State", answer(Variant::int32(0)))
+      .on(L"NextRecordset", answer(Variant::object(nullptr)));
+  auto object = FakeObject::make();
+  object->on(L"Execute", answerObject(counts));
+  AdoConnection other{ComPtr<IDispatch>(object.get())};
+  try {
+    other.open("exec WritesOnly");
+    FAIL();
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.number(), 3704);
+  }
+}
+
+TEST_F(AdoTest, databaseErrorKeepsNumberTextAndLine) {
+  ado.failures["select"] = L"Invalid object name 'T'.";
+  try {
+    connection->open("select");
+    FAIL();
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.number(), -2147217900);
+    EXPECT_EQ(error.description(), "Invalid object name 'T'.");
+    EXPECT_GT(error.line(), 0U);
+  }
+}
+
+TEST_F(AdoTest, neverClosesTheLentConnectionAndGivesItBack) {
+  ado.connection->on(L"Close", answer(Variant()));
+  ado.give("select", numbers(2));
+  {
+    RecordSet rows = connection->open("select");
+    while (rows.next()) continue;
+  }
+  connection.reset();
+  EXPECT_EQ(ado.connection->references(), 1U);
+  for (const std::string& call : ado.connection->calls()) EXPECT_NE(call, "Close()");
+}
+
+struct ProcedureTest : AdoTest {
+  ComPtr<FakeObject> command = FakeObject::make();
+  ComPtr<FakeObject> parameters = FakeObject::make();
+  std::vector<ComPtr<FakeObject>> made;
+  ClassObject commands{ado::commandClass, [this] { return command; }};
+
+  ProcedureTest() {
+    parameters->on(L"Append", answer(Variant()));
+    command->on(L"ActiveConnection", answer(Variant()))
+        .on(L"CommandText", answer(Variant()))
+        .on(L"CommandType", answer(Variant()))
+        .on(L"Parameters", answerObject(parameters))
+        .on(L"CreateParameter",
+            [this](Call& create) {
+              made.push_back(FakeObject::make());
+              made.back()->on(L"Value", answer(Variant::int32(4711)));
+              return answerObject(made.back())(create);
+            })
+        .on(L"Execute", answer(Variant()));
+  }
+
+  ProcedureCall call{
+      "DVR_AddAction",
+      {{"DVRActionID", ParameterType::Integer, ParameterDirection::Output, std::int64_t{0}},
+       {"RecordRate", ParameterType::Double, ParameterDirection::Input, 7.5},
+       {"PresetID", ParameterType::Integer, ParameterDirection::Input, Null{}}}};
+};
+
+TEST_F(ProcedureTest, runsAsAStoredProcedureCommandOnTheLentConnection) {
+  connection->execute(call);
+  EXPECT_THAT(command->calls(),
+              ElementsAre("putref ActiveConnection(OBJECT)", "put CommandText(BSTR DVR_AddAction)",
+                          "put CommandType(I4 4)", "Parameters()",
+                          "CreateParameter(BSTR DVRActionID, I4 3, I4 2, I4 0, I4 0)",
+                          "CreateParameter(BSTR RecordRate, I4 5, I4 1, I4 0, R8 7.5)",
+                          "CreateParameter(BSTR PresetID, I4 3, I4 1, I4 0, NULL)",
+                          "Execute(MISSING, MISSING, I4 128)"));
+  EXPECT_THAT(parameters->calls(),
+              ElementsAre("Append(OBJECT)", "Append(OBJECT)", "Append(OBJECT)"));
+}
+
+TEST_F(ProcedureTest, readsTheOutputParameterOnly) {
+  connection->execute(call);
+  EXPECT_EQ(toInt32(call.parameters[0].value), 4711);
+  EXPECT_THAT(made[0]->calls(), ElementsAre("Value()"));
+  EXPECT_THAT(made[1]->calls(), IsEmpty());
+}
+
+TEST_F(ProcedureTest, givesCommandAndParametersBack) {
+  connection->execute(call);
+  EXPECT_EQ(made[0]->references(), 1U);
+  EXPECT_EQ(command->references(), 1U);
+}
+
+TEST_F(ProcedureTest, machineWithoutAdoIsAnError) {
+  commands.revoke();
+  EXPECT_THROW(connection->execute(call), RunTimeError);
+}
+
+}  // namespace
+}  // namespace pelorin::test

@@ -1,0 +1,11 @@
+// Automation needs an apartment.
+#include <gmock/gmock.h>
+#include <ole2.h>
+
+int main(int argc, char** argv) {
+  testing::InitGoogleMock(&argc, argv);
+  OleInitialize(nullptr);
+  const int result = RUN_ALL_TESTS();
+  OleUninitialize();
+  return result;
+}
