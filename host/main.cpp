@@ -1,8 +1,4 @@
 // Starts the reference host.
-#include <commctrl.h>
-#include <ole2.h>
-#include <shellapi.h>
-#include <windows.h>
 
 #include <algorithm>
 #include <string>
@@ -10,10 +6,12 @@
 
 #include "common/guard.h"
 #include "host/core/options.h"
+#include "host/play/play.h"
 #include "host/window/main_window.h"
+#include "host/window/message_loop.h"
 #include "host/window/output.h"
-#include "host/window/resource.h"
 #include "host/window/single_instance.h"
+#include "host/windows_api.h"
 #include "win32/com/com_error.h"
 #include "win32/text/utf16.h"
 
@@ -48,19 +46,6 @@ void loadControls() {
   InitCommonControlsEx(&wanted);
 }
 
-int messageLoop(HWND window) {
-  const HACCEL keys =
-      LoadAcceleratorsW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDR_ACCELERATORS));
-  MSG message{};
-  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (GetActiveWindow() == window && TranslateAcceleratorW(window, keys, &message)) continue;
-    if (IsDialogMessageW(window, &message)) continue;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
-  return static_cast<int>(message.wParam);
-}
-
 int showWindows(const Options& options, int show) {
   const SingleInstance instance;
   if (!instance.isFirst()) {
@@ -73,6 +58,10 @@ int showWindows(const Options& options, int show) {
   return messageLoop(window.handle());
 }
 
+bool isUnattended(const Options& options) {
+  return options.play || !options.picturesFolder.empty();
+}
+
 int start(const std::vector<std::string>& arguments, int show) {
   const Options options = parseOptions(arguments);
   if (options.help) {
@@ -81,7 +70,7 @@ int start(const std::vector<std::string>& arguments, int show) {
   }
   const Apartment apartment;
   loadControls();
-  return showWindows(options, show);
+  return isUnattended(options) ? play(options) : showWindows(options, show);
 }
 
 // A program that runs by itself must not wait for somebody to close a box.
@@ -89,7 +78,9 @@ int run(int show) noexcept {
   bool unattended = false;
   try {
     const std::vector<std::string> arguments = commandLine();
-    unattended = std::find(arguments.begin(), arguments.end(), "--play") != arguments.end();
+    unattended = std::any_of(arguments.begin(), arguments.end(), [](const std::string& argument) {
+      return argument == "--play" || argument == "--pictures";
+    });
     return start(arguments, show);
   } catch (const OptionError& error) {
     unattended ? printError(error.what()) : showError(error.what());

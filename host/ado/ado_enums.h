@@ -1,9 +1,9 @@
 // The numbers of ADO that these objects give and take, and the classes they stand in for.
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
+
+#include "host/windows_api.h"
 
 namespace pelorin::host::ado {
 

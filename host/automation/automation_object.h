@@ -12,14 +12,12 @@
 // as an exception with number and description.
 #pragma once
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include <atomic>
 #include <exception>
 #include <iterator>
 
 #include "host/automation/member_call.h"
+#include "host/windows_api.h"
 
 namespace pelorin::host {
 

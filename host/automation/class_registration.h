@@ -1,12 +1,10 @@
 // Offers classes to everybody in this process, ahead of what is registered on the machine.
 #pragma once
 
-#include <objbase.h>
-#include <windows.h>
-
 #include <atomic>
 #include <functional>
 
+#include "host/windows_api.h"
 #include "win32/com/com_error.h"
 #include "win32/com/com_ptr.h"
 

@@ -1,13 +1,11 @@
 // One call of an object's member by a late-bound client.
 #pragma once
 
-#include <oleauto.h>
-#include <windows.h>
-
 #include <cstdint>
 #include <string>
 
 #include "common/value.h"
+#include "host/windows_api.h"
 #include "win32/com/com_ptr.h"
 #include "win32/com/variant.h"
 

@@ -47,8 +47,10 @@ class Parser {
   void checkCombination() const {
     const bool embedded = options_.source == Source::EmbeddedDatabase;
     if (!embedded && !options_.database.empty()) throw OptionError(oneSource_);
-    if (options_.play && !(embedded && options_.database.empty())) {
-      throw OptionError("--play makes a database of its own: leave out the one you named.");
+    const bool playing = options_.play || !options_.picturesFolder.empty();
+    if (playing && !(embedded && options_.database.empty())) {
+      throw OptionError(
+          "A played request makes a database of its own: leave out the one you named.");
     }
   }
 

@@ -1,11 +1,10 @@
 #include "host/session/component.h"
 
-#include <ole2.h>
-
 #include <exception>
 #include <utility>
 
 #include "controls/run_time_error.h"
+#include "host/windows_api.h"
 #include "win32/com/com_error.h"
 #include "win32/text/utf16.h"
 
@@ -55,7 +54,8 @@ GetClassObject classObjectFunction(HMODULE module) {
   return reinterpret_cast<GetClassObject>(address);
 }
 
-// The module stays loaded as long as the process lives, as one loaded by COM may.
+// Full path: the altered search path is defined for nothing else. The module stays loaded as long
+// as the process lives, as one loaded by COM may.
 ComPtr<IDispatch> createFromFile(const std::wstring& file) {
   if (GetFileAttributesW(file.c_str()) == INVALID_FILE_ATTRIBUTES) {
     throw RunTimeError(fileNotFound, "There is no file " + toUtf8(file));
@@ -76,7 +76,8 @@ ComPtr<IDispatch> createFromFile(const std::wstring& file) {
   return object;
 }
 
-// The altered search path is defined for full paths only.
+}  // namespace
+
 std::wstring fullPath(const std::wstring& file) {
   std::wstring path(MAX_PATH, L'\0');
   DWORD length = GetFullPathNameW(file.c_str(), MAX_PATH, path.data(), nullptr);
@@ -87,8 +88,6 @@ std::wstring fullPath(const std::wstring& file) {
   path.resize(length);
   return path;
 }
-
-}  // namespace
 
 std::wstring programFolder() {
   std::wstring path(MAX_PATH, L'\0');

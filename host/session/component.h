@@ -1,11 +1,10 @@
 // The component, known through COM alone.
 #pragma once
 
-#include <windows.h>
-
 #include <memory>
 #include <string>
 
+#include "host/windows_api.h"
 #include "win32/com/late_bound.h"
 
 namespace pelorin::host {
@@ -34,6 +33,8 @@ class Component {
   std::unique_ptr<LateBound> object_;
   std::string origin_;
 };
+
+std::wstring fullPath(const std::wstring& file);
 
 // The folder of this program, without a closing separator.
 std::wstring programFolder();

@@ -1,8 +1,5 @@
 #include "host/session/data_source.h"
 
-#include <shlobj.h>
-#include <windows.h>
-
 #include <array>
 #include <utility>
 
@@ -11,6 +8,7 @@
 #include "host/core/embedded_connection.h"
 #include "host/core/watched_connection.h"
 #include "host/odbc/odbc_connection.h"
+#include "host/windows_api.h"
 #include "site/site_database.h"
 #include "win32/com/com_error.h"
 #include "win32/com/late_bound.h"

@@ -6,8 +6,6 @@
 // Lives on the thread of the user interface, which has to have a single-threaded apartment.
 #pragma once
 
-#include <windows.h>
-
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,6 +17,7 @@
 #include "host/session/component.h"
 #include "host/session/data_source.h"
 #include "host/session/services_object.h"
+#include "host/windows_api.h"
 
 namespace pelorin::host {
 

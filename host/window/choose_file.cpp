@@ -1,8 +1,7 @@
 #include "host/window/choose_file.h"
 
-#include <commdlg.h>
-
 #include "host/session/data_source.h"
+#include "host/windows_api.h"
 #include "win32/text/utf16.h"
 
 namespace pelorin::host {

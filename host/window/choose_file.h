@@ -1,9 +1,9 @@
 // The dialog that asks for a database file.
 #pragma once
 
-#include <windows.h>
-
 #include <string>
+
+#include "host/windows_api.h"
 
 namespace pelorin::host {
 

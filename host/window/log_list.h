@@ -1,12 +1,11 @@
 // A list that shows the rows of a log as they come, asking for the texts it draws.
 #pragma once
 
-#include <commctrl.h>
-#include <windows.h>
-
 #include <functional>
 #include <initializer_list>
 #include <string>
+
+#include "host/windows_api.h"
 
 namespace pelorin::host {
 

@@ -39,9 +39,9 @@ MainWindow::MainWindow(const Options& options) {
   makeControls();
   session_->statements().onChange = [this] { scheduleRefresh(); };
   session_->onAudit = [this] { scheduleRefresh(); };
+  layOut();
   showSwitches();
   refresh();
-  layOut();
 }
 
 // The component's windows are owned by this one and go before it.

@@ -1,8 +1,8 @@
-#include <windowsx.h>
 
 #include <algorithm>
 
 #include "host/window/main_window.h"
+#include "host/windows_api.h"
 
 namespace pelorin::host {
 

@@ -1,8 +1,7 @@
 #include "host/window/output.h"
 
-#include <windows.h>
-
 #include "host/window/window.h"
+#include "host/windows_api.h"
 #include "win32/text/utf16.h"
 
 namespace pelorin::host {

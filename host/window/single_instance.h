@@ -1,7 +1,7 @@
 // One host at a time for each user.
 #pragma once
 
-#include <windows.h>
+#include "host/windows_api.h"
 
 namespace pelorin::host {
 

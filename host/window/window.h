@@ -1,9 +1,9 @@
 // Base of the program's own windows: a window class, and a procedure that no exception leaves.
 #pragma once
 
-#include <windows.h>
-
 #include <string>
+
+#include "host/windows_api.h"
 
 namespace pelorin::host {
 

@@ -1,0 +1,139 @@
+#include "host/driver/find_window.h"
+
+#include <array>
+#include <functional>
+
+#include "host/driver/waiting.h"
+#include "win32/text/utf16.h"
+
+namespace pelorin::host {
+
+namespace {
+
+using Visit = std::function<bool(HWND)>;
+
+// Visits until one is found.
+struct Search {
+  const Visit& wanted;
+  HWND found = nullptr;
+
+  static BOOL CALLBACK step(HWND window, LPARAM address) noexcept {
+    Search& search = *reinterpret_cast<Search*>(address);
+    try {
+      if (!search.wanted(window)) return TRUE;
+    } catch (...) {
+      return TRUE;
+    }
+    search.found = window;
+    return FALSE;
+  }
+};
+
+HWND findTopLevel(const Visit& wanted) {
+  Search search{.wanted = wanted};
+  EnumWindows(&Search::step, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+HWND findChild(HWND parent, const Visit& wanted) {
+  Search search{.wanted = wanted};
+  EnumChildWindows(parent, &Search::step, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+bool isOurs(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process == GetCurrentProcessId();
+}
+
+constexpr UINT answerMilliseconds = 5000;
+
+LRESULT ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  DWORD_PTR answer = 0;
+  SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, answerMilliseconds, &answer);
+  return static_cast<LRESULT>(answer);
+}
+
+// Of the labels in a message box the text is the longest; the icon's is empty.
+std::string boxText(HWND box) {
+  std::string text;
+  findChild(box, [&](HWND child) {
+    if (classOf(child) == L"Static" && textOf(child).size() > text.size()) text = textOf(child);
+    return false;
+  });
+  return text;
+}
+
+bool isBox(HWND window) {
+  return isOurs(window) && IsWindowVisible(window) && classOf(window) == L"#32770" &&
+         designName(window).empty();
+}
+
+}  // namespace
+
+std::string designName(HWND window) {
+  static const UINT message = RegisterWindowMessageW(L"WM_GETCONTROLNAME");
+  std::array<wchar_t, 128> name{};
+  const LRESULT length = ask(window, message, name.size(), reinterpret_cast<LPARAM>(name.data()));
+  if (length <= 0 || static_cast<std::size_t>(length) > name.size()) return {};
+  return toUtf8(name.data());
+}
+
+HWND findForm(const std::string& name) {
+  return findTopLevel([&](HWND window) {
+    return isOurs(window) && IsWindowVisible(window) && designName(window) == name;
+  });
+}
+
+HWND waitForForm(const std::string& name) {
+  return waitFor("window " + name, [&] { return findForm(name); });
+}
+
+void waitUntilClosed(HWND form) {
+  waitFor("end of a window", [&] { return !IsWindow(form) || !IsWindowVisible(form); });
+}
+
+HWND control(HWND form, const std::string& name) {
+  const HWND found = findChild(form, [&](HWND window) { return designName(window) == name; });
+  if (found == nullptr) throw DriverError(designName(form) + " has no control " + name);
+  return found;
+}
+
+std::wstring classOf(HWND window) {
+  std::array<wchar_t, 128> name{};
+  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  return name.data();
+}
+
+std::string textOf(HWND window) {
+  const LRESULT length = ask(window, WM_GETTEXTLENGTH, 0, 0);
+  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+  const LRESULT copied =
+      ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(copied));
+  return toUtf8(text);
+}
+
+bool isShown(HWND window) {
+  return IsWindowVisible(window) != FALSE;
+}
+
+std::optional<OpenBox> findBox() {
+  const HWND window = findTopLevel(isBox);
+  if (window == nullptr) return std::nullopt;
+  return OpenBox{.window = window, .title = textOf(window), .text = boxText(window)};
+}
+
+OpenBox waitForBox() {
+  return *waitFor("message box", findBox);
+}
+
+OpenBox answerBox() {
+  OpenBox box = waitForBox();
+  PostMessageW(box.window, WM_COMMAND, IDOK, 0);
+  waitUntilClosed(box.window);
+  return box;
+}
+
+}  // namespace pelorin::host

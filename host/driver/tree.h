@@ -1,0 +1,26 @@
+// A tree of nodes with captions.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "host/windows_api.h"
+
+namespace pelorin::host {
+
+std::string nodeText(HWND tree, HTREEITEM node);
+std::vector<HTREEITEM> childrenOf(HWND tree, HTREEITEM parent);  // of the roots' parent when null
+
+// Opens the nodes on the way, by a click on their mark. DriverError naming the caption that is not
+// there.
+HTREEITEM openPath(HWND tree, const std::vector<std::string>& captions);
+void expand(HWND tree, HTREEITEM node);
+
+void clickNode(HWND tree, HTREEITEM node);
+void doubleClickNode(HWND tree, HTREEITEM node);
+
+// Goes through the nodes from the top, opening them as needed; the first that is wanted, else null.
+HTREEITEM findNode(HWND tree, const std::function<bool(HTREEITEM)>& wanted);
+
+}  // namespace pelorin::host

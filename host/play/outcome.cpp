@@ -1,0 +1,149 @@
+#include "host/play/outcome.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <iterator>
+#include <set>
+
+#include "site/site_database.h"
+
+namespace pelorin::host {
+
+namespace {
+
+constexpr std::size_t expectedRows = std::size(typical::addresses) * std::size(typical::events);
+constexpr std::size_t shownColumns = 5;
+constexpr std::size_t triggerColumn = 5;
+
+template <class Entry>
+std::vector<Entry> since(const std::vector<Entry>& entries, std::size_t mark) {
+  return {entries.begin() + static_cast<std::ptrdiff_t>(std::min(mark, entries.size())),
+          entries.end()};
+}
+
+std::vector<Statement> inserts(const Stage& stage, const LogMarks& marks) {
+  std::vector<Statement> all = stage.ui().run(
+      [&] { return since(stage.session().statements().statements(), marks.statements); });
+  std::erase_if(all, [](const Statement& statement) {
+    return !statement.text.starts_with("exec CCTV_Insert_TA ");
+  });
+  return all;
+}
+
+std::vector<AuditRecord> records(const Stage& stage, const LogMarks& marks) {
+  return stage.ui().run(
+      [&] { return since(stage.session().data().audit().records(), marks.records); });
+}
+
+std::string milliseconds(double time) {
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), "%.2f ms", time);
+  return text.data();
+}
+
+void tellStatements(const Stage& stage, const std::vector<Statement>& statements) {
+  stage.tell("\nStatements sent:");
+  for (const Statement& statement : statements) {
+    stage.tell("  " + statement.text + "   (" + milliseconds(statement.milliseconds) + ")");
+  }
+}
+
+void tellRecords(const Stage& stage, const std::vector<AuditRecord>& all) {
+  stage.tell("\nAudit records:");
+  for (const AuditRecord& record : all) {
+    stage.tell("  " + record.loggedAt + "  " + record.operation + "  " + record.objectKind + "  " +
+               std::to_string(record.objectId) + "  " + record.description + "  " +
+               std::to_string(record.eventCode));
+  }
+}
+
+void tellRows(const Stage& stage, const std::string& title, const std::vector<Row>& rows) {
+  stage.tell("\n" + title + ", " + std::to_string(rows.size()) + " rows:");
+  for (const Row& row : rows) {
+    std::string line = " ";
+    for (std::size_t i = 0; i < std::min(shownColumns, row.size()); ++i) {
+      line += (i == 0 ? " " : " | ") + row[i];
+    }
+    stage.tell(line);
+  }
+}
+
+// The keys of rows that were not there before.
+std::vector<std::string> newKeys(const SummaryRows& rows) {
+  std::set<std::string> old;
+  for (const Row& row : rows.before) old.insert(row.at(triggerColumn));
+  std::vector<std::string> keys;
+  for (const Row& row : rows.after) {
+    if (!old.contains(row.at(triggerColumn))) keys.push_back(row.at(triggerColumn));
+  }
+  return keys;
+}
+
+bool isAsRequested(RecordSet& row) {
+  return row.int32("SwitcherID") == typical::switcher && row.int32("Camera") == typical::camera &&
+         row.int32("Monitor") == typical::monitor && row.int32("A_type") == 1;
+}
+
+// Address and event of each new row that is in the file as it was asked for. The file is opened
+// anew: what counts is what another program would find in it.
+std::set<std::string> storedPairs(const std::string& file, const std::vector<std::string>& keys) {
+  const std::unique_ptr<Connection> database = SiteDatabase::open(file).connect();
+  std::set<std::string> pairs;
+  for (const std::string& key : keys) {
+    RecordSet row = database->open("select * from CCTV_TriggerAction where TA_ID = " + key);
+    if (row.next() && isAsRequested(row)) {
+      pairs.insert(row.text("T_Address") + " " + row.text("T_EventID"));
+    }
+  }
+  return pairs;
+}
+
+std::set<std::string> expectedPairs() {
+  std::set<std::string> pairs;
+  for (const char* address : typical::addresses) {
+    for (const int event : typical::events)
+      pairs.insert(std::string(address) + " " + std::to_string(event));
+  }
+  return pairs;
+}
+
+bool areAdditions(const std::vector<AuditRecord>& all) {
+  return std::all_of(all.begin(), all.end(), [](const AuditRecord& record) {
+    return record.operation == "Add" && record.objectKind == "TriggerAction" &&
+           record.eventCode == 1184;
+  });
+}
+
+}  // namespace
+
+LogMarks marksOf(const Stage& stage) {
+  return stage.ui().run([&] {
+    return LogMarks{.statements = stage.session().statements().statements().size(),
+                    .records = stage.session().data().audit().records().size()};
+  });
+}
+
+std::vector<std::string> tellOutcome(const Stage& stage, const LogMarks& marks,
+                                     const SummaryRows& rows, const std::string& file) {
+  const std::vector<Statement> sent = inserts(stage, marks);
+  const std::vector<AuditRecord> logged = records(stage, marks);
+  tellStatements(stage, sent);
+  tellRecords(stage, logged);
+  tellRows(stage, "Summary before", rows.before);
+  tellRows(stage, "Summary after", rows.after);
+  std::vector<std::string> faults;
+  const auto expect = [&](bool holds, const char* fault) {
+    if (!holds) faults.emplace_back(fault);
+  };
+  expect(sent.size() == expectedRows, "not four statements were sent");
+  expect(logged.size() == expectedRows && areAdditions(logged),
+         "the audit log did not get its four records");
+  expect(rows.after.size() == rows.before.size() + expectedRows,
+         "the summary did not grow by four rows");
+  expect(storedPairs(file, newKeys(rows)) == expectedPairs(),
+         "the database does not hold the four rows");
+  return faults;
+}
+
+}  // namespace pelorin::host

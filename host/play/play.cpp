@@ -1,0 +1,91 @@
+#include "host/play/play.h"
+
+#include <array>
+#include <exception>
+#include <optional>
+#include <thread>
+
+#include "host/driver/find_window.h"
+#include "host/play/outcome.h"
+#include "host/play/typical_request.h"
+#include "host/window/main_window.h"
+#include "host/window/message_loop.h"
+#include "host/window/output.h"
+#include "host/windows_api.h"
+#include "win32/text/utf16.h"
+
+namespace pelorin::host {
+
+namespace {
+
+// The name of a file in the temporary folder that does not exist yet; removed at the end.
+class TemporaryDatabase {
+ public:
+  TemporaryDatabase() {
+    std::array<wchar_t, MAX_PATH> folder{};
+    GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
+    file_ = std::wstring(folder.data()) + L"PelorinPlay-" + std::to_wstring(GetCurrentProcessId()) +
+            L".site";
+    DeleteFileW(file_.c_str());
+  }
+  TemporaryDatabase(const TemporaryDatabase&) = delete;
+  TemporaryDatabase& operator=(const TemporaryDatabase&) = delete;
+  ~TemporaryDatabase() { DeleteFileW(file_.c_str()); }
+
+  std::string path() const { return toUtf8(file_); }
+
+ private:
+  std::wstring file_;
+};
+
+bool playAndCheck(Stage& stage, const std::string& file) {
+  const LogMarks marks = marksOf(stage);
+  const SummaryRows rows = playTypicalRequest(stage);
+  const std::vector<std::string> faults = tellOutcome(stage, marks, rows, file);
+  for (const std::string& fault : faults) printError("FAILED: " + fault);
+  if (faults.empty()) stage.tell("\nAll as expected.");
+  return faults.empty();
+}
+
+// A box that nobody expected is the best explanation there is.
+void tellFailure(const char* what) {
+  printError(std::string("FAILED: ") + what);
+  if (const std::optional<OpenBox> box = findBox()) {
+    printError("An open message box says: " + box->text);
+  }
+}
+
+int playOn(const UiCalls& ui, MainWindow& window, const Options& options) noexcept {
+  try {
+    const bool documents = !options.picturesFolder.empty();
+    const std::string suffix = documents ? "-" + std::to_string(scaled(96)) : std::string();
+    Stage stage(ui, window.session(), window.handle(),
+                documents ? options.picturesFolder : options.outputFolder, suffix, printLine);
+    return playAndCheck(stage, options.database) ? 0 : 1;
+  } catch (const std::exception& error) {
+    tellFailure(error.what());
+    return 1;
+  }
+}
+
+}  // namespace
+
+int play(const Options& options) {
+  const TemporaryDatabase database;
+  Options own = options;
+  own.database = database.path();
+  MainWindow window(own);
+  ShowWindow(window.handle(), SW_SHOWNORMAL);
+  std::optional<UiCalls> ui(std::in_place);
+  std::thread player([&] {
+    const int result = playOn(*ui, window, own);
+    ui->post([result] { PostQuitMessage(result); });
+  });
+  const int result = messageLoop(window.handle());
+  // The player must not wait for a thread that waits for him.
+  ui.reset();
+  player.join();
+  return result;
+}
+
+}  // namespace pelorin::host

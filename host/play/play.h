@@ -1,0 +1,13 @@
+// Plays the typical request by itself and says whether all was as expected.
+#pragma once
+
+#include "host/core/options.h"
+
+namespace pelorin::host {
+
+// Makes a database of its own, opens the main window and the component, plays the request and
+// closes everything. Prints each step, what was sent and logged, and the summary before and after.
+// 0 when all was as expected, else 1.
+int play(const Options& options);
+
+}  // namespace pelorin::host

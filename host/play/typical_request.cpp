@@ -1,0 +1,137 @@
+#include "host/play/typical_request.h"
+
+#include <algorithm>
+
+#include "host/driver/find_window.h"
+#include "host/driver/operate.h"
+#include "host/driver/tree.h"
+#include "host/driver/waiting.h"
+#include "host/window/resource.h"
+
+namespace pelorin::host {
+
+namespace {
+
+constexpr const char* category = "Alarm";
+constexpr const char* eventNumbers[] = {"00001", "00002"};
+constexpr const char* doors[] = {"Main entrance", "Revolving door"};
+constexpr const char* switcherName = "Main building switcher";
+constexpr const char* cameraName = "Reception desk";
+constexpr const char* monitorName = "3";
+
+int rowOf(HWND list, int column, const std::string& text) {
+  return *waitFor("row " + text, [&]() -> std::optional<int> {
+    const int row = findRow(list, column, text);
+    return row < 0 ? std::nullopt : std::optional(row);
+  });
+}
+
+HWND openSummary(Stage& stage) {
+  clickButton(GetDlgItem(stage.mainWindow(), IDM_TRIGGER_ACTIONS));
+  const HWND summary = waitForForm("frmTASummary");
+  stage.step("\"Trigger actions...\" pressed: the summary opens with " +
+             std::to_string(rowCount(control(summary, "MSFlexGrid1"))) + " rows");
+  return summary;
+}
+
+HWND openEditor(Stage& stage, HWND summary) {
+  clickButton(control(summary, "cmdAddEdit(0)"));
+  const HWND editor = waitForForm("frmTriggerAction");
+  stage.step("\"Add...\" pressed: the editor opens, titled \"" + textOf(editor) + "\"");
+  return editor;
+}
+
+void tickCategory(Stage& stage, HWND editor) {
+  const HWND filters = control(editor, "lstEventFilters");
+  const std::vector<std::string> rows = listBoxRows(filters);
+  const auto found = std::find_if(rows.begin(), rows.end(),
+                                  [](const std::string& row) { return row.starts_with(category); });
+  if (found == rows.end()) throw DriverError(std::string("no category ") + category);
+  tickRow(filters, static_cast<int>(found - rows.begin()));
+  const HWND events = control(editor, "lvwEvents");
+  waitFor("events", [&] { return rowCount(events) > 0; });
+  stage.step("category \"" + *found + "\" ticked: " + std::to_string(rowCount(events)) +
+             " events listed");
+}
+
+void checkEvents(Stage& stage, HWND editor) {
+  const HWND events = control(editor, "lvwEvents");
+  for (const char* number : eventNumbers) {
+    const int row = rowOf(events, 1, number);
+    clickCheck(events, row);
+    stage.step("event " + cell(events, row, 1) + " \"" + cell(events, row, 2) + "\" checked");
+  }
+}
+
+HWND openPicker(Stage& stage, HWND editor) {
+  clickButton(control(editor, "cmdAddLocation"));
+  const HWND picker = waitForForm("FLocation");
+  stage.step("\"Add...\" beside the locations pressed: the picker opens");
+  return picker;
+}
+
+void chooseDoors(Stage& stage, HWND editor, HWND picker) {
+  const HWND tree = control(picker, "tvTree");
+  const HWND locations = control(editor, "lvwLocation");
+  for (const char* door : doors) {
+    const int before = rowCount(locations);
+    doubleClickNode(
+        tree, openPath(tree, {" Hardware", " Lumet Configuration (HEADOFFICE)",
+                              "VOLLO (HEADOFFICE)", "Network port 1", "Lobby", "Doors", door}));
+    waitFor("location in the list", [&] { return rowCount(locations) == before + 1; });
+    stage.step("door \"" + std::string(door) + "\" double-clicked: " + cell(locations, before, 0) +
+               " is in the list");
+  }
+}
+
+void closePicker(Stage& stage, HWND picker) {
+  stage.picture(picker, "picker");
+  clickButton(control(picker, "cmdMain(1)"));
+  waitUntilClosed(picker);
+  stage.step("picker closed");
+}
+
+void chooseAction(Stage& stage, HWND editor) {
+  chooseTab(control(editor, "SSTab1"), 1);
+  const auto choose = [&](const char* combo, const std::string& text) {
+    chooseText(control(editor, combo), text);
+    stage.step(std::string(combo) + ": \"" + text + "\" chosen");
+  };
+  choose("cmbActionDeviceClass", "CCTV");
+  choose("cmbCCTVSwitchers", switcherName);
+  choose("cmbCCTVMonitors", monitorName);
+  choose("cmbCCTVCameras", cameraName);
+}
+
+void save(Stage& stage, HWND editor) {
+  stage.picture(editor, "editor-action");
+  clickButton(control(editor, "cmdOK"));
+  waitUntilClosed(editor);
+  stage.step("\"OK\" pressed: the editor saves and closes");
+}
+
+}  // namespace
+
+SummaryRows playTypicalRequest(Stage& stage) {
+  SummaryRows rows;
+  const HWND summary = openSummary(stage);
+  const HWND grid = control(summary, "MSFlexGrid1");
+  rows.before = rowsOf(grid);
+  stage.picture(summary, "summary-before");
+  const HWND editor = openEditor(stage, summary);
+  tickCategory(stage, editor);
+  checkEvents(stage, editor);
+  const HWND picker = openPicker(stage, editor);
+  chooseDoors(stage, editor, picker);
+  closePicker(stage, picker);
+  stage.picture(editor, "editor");
+  chooseAction(stage, editor);
+  save(stage, editor);
+  rows.after = rowsOf(grid);
+  stage.picture(summary, "summary");
+  stage.step("the summary shows " + std::to_string(rows.after.size()) + " rows");
+  stage.picture(stage.mainWindow(), "host");
+  return rows;
+}
+
+}  // namespace pelorin::host
