@@ -1,0 +1,154 @@
+#include "controls/screen.h"
+
+#include <algorithm>
+
+#include "gtest/gtest.h"
+#include "tests/fakes/recording_screen.h"
+
+namespace pelorin::test {
+
+namespace {
+
+using Events = std::vector<std::string>;
+
+class NotingForm : public Form {
+ public:
+  NotingForm(const std::string& name, Events& events)
+      : Form(name, name, {100, 100}), events_(events) {}
+  ~NotingForm() override { unload(); }
+
+  void Form_Load() override {
+    note("load");
+    if (whileLoading) whileLoading();
+  }
+  void Form_Activate() override { note("activate"); }
+  void Form_Unload() override { note("unload"); }
+
+  std::function<void()> whileLoading;
+
+ private:
+  void note(const std::string& event) { events_.push_back(event + " " + name()); }
+
+  Events& events_;
+};
+
+class Screens : public ::testing::Test {
+ protected:
+  Journal journal;
+  RecordingScreen screen{journal};
+  Events events;
+  NotingForm summary{"summary", events};
+  NotingForm editor{"editor", events};
+  NotingForm picker{"picker", events};
+
+  void openAll() {
+    screen.show(summary, 7);
+    screen.show(editor, screen.windowOf(summary));
+    screen.show(picker);
+    screen.setOwner(picker, screen.windowOf(editor));
+    events.clear();
+  }
+};
+
+}  // namespace
+
+TEST_F(Screens, AFormLoadsInItsHiddenWindowAndIsThenPresented) {
+  summary.whileLoading = [&] { EXPECT_NE(summary.hwnd(), 0U); };
+  screen.show(summary, 7);
+  EXPECT_EQ(events, (Events{"load summary", "activate summary"}));
+  EXPECT_EQ(screen.windowEvents, (Events{"create summary", "present summary"}));
+  EXPECT_EQ(screen.owners["summary"], 7U);
+}
+
+TEST_F(Screens, AnOpenFormIsOnlyRaised) {
+  screen.show(summary);
+  screen.show(summary);
+  EXPECT_EQ(screen.windowEvents.back(), "raise summary");
+  EXPECT_EQ(std::count(events.begin(), events.end(), "load summary"), 1);
+}
+
+TEST_F(Screens, AFormUnloadedWhileItLoadsIsNotPresented) {
+  summary.whileLoading = [&] { summary.unload(); };
+  screen.show(summary);
+  EXPECT_EQ(screen.windowEvents, (Events{"create summary", "destroy summary"}));
+}
+
+TEST_F(Screens, AnOwnerUnloadsWhatItOwnsInnermostFirst) {
+  openAll();
+  summary.unload();
+  EXPECT_EQ(events, (Events{"unload picker", "unload editor", "unload summary"}));
+  EXPECT_TRUE(screen.openForms().empty());
+}
+
+TEST_F(Screens, WhatIsNotOwnedStaysOpen) {
+  openAll();
+  editor.unload();
+  EXPECT_EQ(events, (Events{"unload picker", "unload editor"}));
+  EXPECT_TRUE(summary.isOpen());
+}
+
+TEST_F(Screens, AFormIsUnloadedOnce) {
+  screen.show(summary);
+  int unloaded = 0;
+  summary.onUnloaded = [&] {
+    ++unloaded;
+    summary.unload();
+  };
+  summary.unload();
+  summary.unload();
+  EXPECT_EQ(unloaded, 1);
+}
+
+TEST_F(Screens, UnloadAllClosesEverything) {
+  openAll();
+  screen.unloadAll();
+  EXPECT_EQ(events.size(), 3U);
+  EXPECT_TRUE(screen.openForms().empty());
+}
+
+TEST_F(Screens, SetOwnerGivesThePreviousOneBack) {
+  openAll();
+  EXPECT_EQ(screen.setOwner(picker, 0), screen.windowOf(editor));
+  EXPECT_EQ(screen.owners["picker"], 0U);
+  picker.unload();
+  EXPECT_EQ(screen.setOwner(picker, 5), 0U) << "a closed form has none";
+}
+
+TEST_F(Screens, FindsTheFormOfAWindow) {
+  openAll();
+  EXPECT_EQ(screen.formOf(screen.windowOf(editor)), &editor);
+  EXPECT_EQ(screen.formOf(0), nullptr);
+  EXPECT_EQ(screen.formOf(999999), nullptr);
+}
+
+TEST_F(Screens, ARetiredFormLivesUntilItIsCollected) {
+  bool gone = false;
+  struct Watched : Form {
+    explicit Watched(bool& flag) : Form("watched", "", {}), gone_(flag) {}
+    ~Watched() override { gone_ = true; }
+    bool& gone_;
+  };
+  screen.retire(std::make_unique<Watched>(gone));
+  summary.whileLoading = [&] {
+    screen.collect();
+    EXPECT_FALSE(gone) << "a handler is running";
+  };
+  screen.show(summary);
+  EXPECT_FALSE(gone);
+  screen.collect();
+  EXPECT_TRUE(gone);
+}
+
+TEST_F(Screens, TheHourglassGivesWayToWhatWasThereBefore) {
+  {
+    const HourglassPointer outer(screen);
+    {
+      const HourglassPointer inner(screen);
+      EXPECT_EQ(screen.mousePointer(), MousePointer::Hourglass);
+    }
+    EXPECT_EQ(screen.mousePointer(), MousePointer::Hourglass);
+  }
+  EXPECT_EQ(screen.mousePointer(), MousePointer::Default);
+}
+
+}  // namespace pelorin::test
