@@ -87,8 +87,8 @@ const EventTypeInfo* EventCatalogue::typeOf(std::int32_t eventId) const noexcept
 
 std::string EventCatalogue::descriptionOf(const std::string& sql) {
   RecordSet rows = module_.DBConnection()->open(sql);
-  rows.drain();
   if (!rows.next()) return {};
+  rows.detach();
   return eventText(rows, module_.NTConnection()->EnableCustomize());
 }
 

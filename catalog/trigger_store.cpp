@@ -17,12 +17,12 @@ bool DeleteTriggerAction(Module1& module, std::int32_t TriggerID) {
         "select ActionId, IntegratedDeviceClassId from IntegratedDevicetriggers where TriggerId "
         "= " +
         numberText(TriggerID));
-    rows.drain();
-    if (rows.next() && rows.int32("IntegratedDeviceClassId") == device_class::dvr) {
+    const bool found = rows.next();
+    rows.detach();
+    if (found && rows.int32("IntegratedDeviceClassId") == device_class::dvr) {
       module.DBConnection()->execute("Delete from DVR_TriggerActions where DVRActionID = " +
                                      numberText(rows.int32("ActionID")));
     }
-    rows.close();
     module.DBConnection()->execute("exec TA_DeleteTrigger " + numberText(TriggerID));
   });
 }

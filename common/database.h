@@ -39,6 +39,9 @@ class RecordSet {
   // Fetches all that is left and closes the result, so that inner statements can run while next()
   // goes through the rows. An error in between is raised by next() after the last row that came.
   void drain();
+  // Closes the result and keeps the rows that have been fetched: for who needs the current row
+  // alone while inner statements run.
+  void detach() noexcept { cursor_.reset(); }
   void close();
 
   const std::vector<std::string>& columns() const noexcept { return columns_; }

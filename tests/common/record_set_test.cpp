@@ -156,6 +156,15 @@ TEST_F(RecordSetTest, DrainingKeepsTheCurrentRow) {
   EXPECT_EQ(rows.int32("ID"), 2);
 }
 
+TEST_F(RecordSetTest, DetachedRowIsReadAfterTheResultIsClosed) {
+  answerRows(2);
+  RecordSet rows = database.open(sql);
+  ASSERT_TRUE(rows.next());
+  rows.detach();
+  EXPECT_EQ(database.openCursors(), 0);
+  EXPECT_EQ(rows.text("DVRName"), "Unit 1");
+}
+
 TEST_F(RecordSetTest, DrainedErrorIsRaisedAfterTheLastRowThatCame) {
   answerRows(900);
   database.failFetch(sql, 700);
