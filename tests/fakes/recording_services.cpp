@@ -6,7 +6,9 @@ namespace pelorin::test {
 
 void RecordingServices::called(const std::string& member, const std::string& arguments) {
   journal_.add("host: " + member + arguments);
-  if (failing.contains(member)) throw RunTimeError(-2147352567, member + " failed");
+  ++calls_;
+  if (calls_ == failingCall_ || failing.contains(member))
+    throw RunTimeError(-2147352567, member + " failed");
 }
 
 std::string RecordingServices::callGetResourceString(std::int32_t id) {

@@ -23,6 +23,13 @@ class RecordingServices : public HostServices {
   std::int32_t workStationId = 3;
   // Members that fail, by name, such as "LogEvent" or "EnableCustomize".
   std::set<std::string> failing;
+  // The n-th call from now on fails; 0 lets none fail.
+  void failCall(int number) {
+    calls_ = 0;
+    failingCall_ = number;
+  }
+  // How many calls there were since failCall.
+  int calls() const { return calls_; }
 
  protected:
   std::string callGetResourceString(std::int32_t id) override;
@@ -38,6 +45,8 @@ class RecordingServices : public HostServices {
   void called(const std::string& member, const std::string& arguments);
 
   Journal& journal_;
+  int calls_ = 0;
+  int failingCall_ = 0;
 };
 
 }  // namespace pelorin::test
