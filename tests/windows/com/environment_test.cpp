@@ -1,0 +1,137 @@
+// The machine as the component sees it: folder, log, settings files, locale.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <array>
+#include <string>
+
+#include "addin/dll/files.h"
+#include "addin/dll/windows_environment.h"
+#include "controls/run_time_error.h"
+#include "win32/text/utf16.h"
+
+namespace pelorin::test {
+namespace {
+
+struct EnvironmentTest : ::testing::Test {
+  WindowsEnvironment environment;
+  std::string folder = makeFolder("");
+
+  static std::string makeFolder(const std::string& suffix) {
+    std::array<wchar_t, MAX_PATH> temporary{};
+    GetTempPathW(MAX_PATH, temporary.data());
+    const std::wstring path = std::wstring(temporary.data()) + L"pelorin" +
+                              std::to_wstring(GetCurrentProcessId()) + toWide(suffix);
+    CreateDirectoryW(path.c_str(), nullptr);
+    return toUtf8(path);
+  }
+  ~EnvironmentTest() override {
+    for (const char* name : {"log.txt", "set.ini", "data.bin", "data.bin.new"}) {
+      DeleteFileW(toWide(folder + "\\" + name).c_str());
+    }
+    RemoveDirectoryW(toWide(folder).c_str());
+  }
+  std::string file(const std::string& name) const { return folder + "\\" + name; }
+  std::string setting(const std::string& key, unsigned capacity = 201) {
+    return environment.privateProfileString("Section", key, "NOTINITIALIZED", capacity,
+                                            file("set.ini"));
+  }
+};
+
+TEST_F(EnvironmentTest, folderIsThatOfTheModule) {
+  std::array<wchar_t, MAX_PATH> path{};
+  GetModuleFileNameW(nullptr, path.data(), MAX_PATH);
+  const std::string whole = toUtf8(path.data());
+  EXPECT_EQ(environment.componentFolder(), whole.substr(0, whole.find_last_of('\\')));
+}
+
+TEST_F(EnvironmentTest, linesAreAppendedAndNeverTruncated) {
+  EXPECT_TRUE(environment.appendLine(file("log.txt"), "one"));
+  EXPECT_TRUE(environment.appendLine(file("log.txt"), "zw\xC3\xB6lf"));
+  EXPECT_EQ(environment.readFile(file("log.txt")), "one\r\nzw\xC3\xB6lf\r\n");
+}
+
+TEST_F(EnvironmentTest, linesAreAppendedBesideAnotherWriter) {
+  HANDLE other = CreateFileW(toWide(file("log.txt")).c_str(), FILE_APPEND_DATA,
+                             FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS, 0, nullptr);
+  EXPECT_TRUE(environment.appendLine(file("log.txt"), "ours"));
+  DWORD written = 0;
+  WriteFile(other, "theirs\r\n", 8, &written, nullptr);
+  EXPECT_TRUE(environment.appendLine(file("log.txt"), "ours"));
+  CloseHandle(other);
+  EXPECT_EQ(environment.readFile(file("log.txt")), "ours\r\ntheirs\r\nours\r\n");
+}
+
+TEST_F(EnvironmentTest, folderThatIsMissingTakesNoLine) {
+  EXPECT_FALSE(environment.appendLine(file("missing\\log.txt"), "one"));
+}
+
+TEST_F(EnvironmentTest, missingFileIsError53) {
+  try {
+    environment.readFile(file("missing"));
+    FAIL();
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.number(), 53);
+  }
+}
+
+TEST_F(EnvironmentTest, writtenFileReplacesTheOldOne) {
+  environment.writeFile(file("data.bin"), std::string("old and longer"));
+  environment.writeFile(file("data.bin"), std::string("new\0!", 5));
+  EXPECT_EQ(environment.readFile(file("data.bin")), std::string("new\0!", 5));
+  EXPECT_THROW(environment.readFile(file("data.bin.new")), RunTimeError);
+}
+
+TEST_F(EnvironmentTest, fileThatCannotBeReplacedKeepsItsContent) {
+  environment.writeFile(file("data.bin"), "old");
+  HANDLE held = CreateFileW(toWide(file("data.bin")).c_str(), GENERIC_READ, FILE_SHARE_READ,
+                            nullptr, OPEN_EXISTING, 0, nullptr);
+  try {
+    environment.writeFile(file("data.bin"), "new");
+    ADD_FAILURE();
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.number(), 75);
+  }
+  CloseHandle(held);
+  EXPECT_EQ(environment.readFile(file("data.bin")), "old");
+  EXPECT_THROW(environment.readFile(file("data.bin.new")), RunTimeError);
+}
+
+TEST_F(EnvironmentTest, settingOfAMissingFileOrKeyIsTheFallback) {
+  EXPECT_EQ(setting("Key"), "NOTINITIALIZED");
+  files::replace(file("set.ini"), "[Section]\r\nOther=1\r\n");
+  EXPECT_EQ(setting("Key"), "NOTINITIALIZED");
+}
+
+TEST_F(EnvironmentTest, settingIsReadFromTheAnsiCodePage) {
+  files::replace(file("set.ini"), "[Section]\r\nKey=T\xFCr\r\nEmpty=\r\n");
+  EXPECT_EQ(setting("Key"), "T\xC3\xBCr");
+  EXPECT_EQ(setting("Empty"), "");
+}
+
+TEST_F(EnvironmentTest, settingHasAtMostTwoHundredCharacters) {
+  files::replace(file("set.ini"), "[Section]\r\nKey=" + std::string(300, 'x') + "\r\n");
+  EXPECT_EQ(setting("Key"), std::string(200, 'x'));
+}
+
+TEST_F(EnvironmentTest, settingIsReadFromAFolderOutsideTheCodePage) {
+  RemoveDirectoryW(toWide(folder).c_str());
+  folder = makeFolder("\xE6\x89\x89");
+  files::replace(file("set.ini"), "[Section]\r\nKey=value\r\n");
+  EXPECT_EQ(setting("Key"), "value");
+  EXPECT_EQ(setting("Missing"), "NOTINITIALIZED");
+}
+
+TEST_F(EnvironmentTest, dateAndTimeAreThoseOfTheUsersLocale) {
+  SYSTEMTIME now{};
+  GetLocalTime(&now);
+  std::array<wchar_t, 128> date{};
+  GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &now, nullptr, date.data(), 128,
+                  nullptr);
+  const std::string text = environment.dateTimeText();
+  EXPECT_EQ(text.substr(0, text.find(' ')), toUtf8(date.data()));
+  EXPECT_NE(text.find(':'), std::string::npos);
+}
+
+}  // namespace
+}  // namespace pelorin::test

@@ -1,0 +1,139 @@
+// What registering leaves in the registry, and what unregistering takes away.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+
+#include "Pelorin.h"
+#include "tests/windows/com/component_dll.h"
+#include "win32/com/late_bound.h"
+
+namespace pelorin::test {
+namespace {
+
+constexpr REGSAM otherView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+
+std::wstring textOf(REFGUID id) {
+  std::array<wchar_t, 40> text{};
+  StringFromGUID2(id, text.data(), static_cast<int>(text.size()));
+  return text.data();
+}
+
+const std::wstring classKey = L"Software\\Classes\\CLSID\\" + textOf(CLSID_TAManager);
+const std::wstring programKey = L"Software\\Classes\\Pelorin.TAManager";
+
+bool exists(HKEY root, const std::wstring& path) {
+  HKEY key = nullptr;
+  if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return false;
+  RegCloseKey(key);
+  return true;
+}
+
+std::wstring value(HKEY root, const std::wstring& path, const wchar_t* name = nullptr) {
+  std::array<wchar_t, 1024> text{};
+  DWORD size = sizeof text;
+  const LSTATUS status =
+      RegGetValueW(root, path.c_str(), name, RRF_RT_REG_SZ, nullptr, text.data(), &size);
+  return status == ERROR_SUCCESS ? text.data() : L"(none)";
+}
+
+// The class as the other architecture's DLL registers it.
+class OtherArchitecture {
+ public:
+  OtherArchitecture() {
+    HKEY key = nullptr;
+    RegCreateKeyExW(HKEY_LOCAL_MACHINE, classKey.c_str(), 0, nullptr, 0, KEY_WRITE | otherView,
+                    nullptr, &key, nullptr);
+    RegCloseKey(key);
+  }
+  OtherArchitecture(const OtherArchitecture&) = delete;
+  OtherArchitecture& operator=(const OtherArchitecture&) = delete;
+  ~OtherArchitecture() { RegDeleteKeyExW(HKEY_LOCAL_MACHINE, classKey.c_str(), otherView, 0); }
+};
+
+struct Registration : ::testing::Test {
+  const ComponentDll& dll = ComponentDll::instance();
+  ~Registration() override { dll.unregisterServer(); }
+};
+
+TEST_F(Registration, namesTheClassForEverybody) {
+  ASSERT_EQ(dll.registerServer(), S_OK);
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\InprocServer32"), dll.path());
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\InprocServer32", L"ThreadingModel"),
+            L"Apartment");
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\ProgID"), L"Pelorin.TAManager.1");
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\VersionIndependentProgID"),
+            L"Pelorin.TAManager");
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\TypeLib"), textOf(LIBID_Pelorin));
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, programKey + L"\\CLSID"), textOf(CLSID_TAManager));
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, programKey + L"\\CurVer"), L"Pelorin.TAManager.1");
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, programKey + L".1\\CLSID"), textOf(CLSID_TAManager));
+}
+
+TEST_F(Registration, letsAProgramCreateTheClassByName) {
+  ASSERT_EQ(dll.registerServer(), S_OK);
+  CLSID id{};
+  ASSERT_EQ(CLSIDFromProgID(L"Pelorin.TAManager", &id), S_OK);
+  ComPtr<IDispatch> object;
+  ASSERT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, object.putVoid()),
+            S_OK);
+  EXPECT_EQ(valueOf(LateBound(object).call(L"InDesign")), Value(false));
+}
+
+TEST_F(Registration, makesTheTypeLibraryKnown) {
+  ASSERT_EQ(dll.registerServer(), S_OK);
+  ComPtr<ITypeLib> library;
+  EXPECT_EQ(LoadRegTypeLib(LIBID_Pelorin, 1, 0, LOCALE_NEUTRAL, library.put()), S_OK);
+}
+
+TEST_F(Registration, canBeRepeated) {
+  EXPECT_EQ(dll.registerServer(), S_OK);
+  EXPECT_EQ(dll.registerServer(), S_OK);
+}
+
+TEST_F(Registration, isTakenBackWithoutTrace) {
+  ASSERT_EQ(dll.registerServer(), S_OK);
+  EXPECT_EQ(dll.unregisterServer(), S_OK);
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey));
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, programKey));
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, programKey + L".1"));
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE,
+                      L"Software\\Classes\\TypeLib\\" + textOf(LIBID_Pelorin) + L"\\1.0"));
+}
+
+TEST_F(Registration, canBeTakenBackWithoutHavingBeenMade) {
+  EXPECT_EQ(dll.unregisterServer(), S_OK);
+  EXPECT_EQ(dll.unregisterServer(), S_OK);
+}
+
+TEST_F(Registration, keepsTheSharedNamesWhileTheOtherArchitectureIsRegistered) {
+  ASSERT_EQ(dll.registerServer(), S_OK);
+  {
+    const OtherArchitecture other;
+    EXPECT_EQ(dll.unregisterServer(), S_OK);
+    EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey));
+    EXPECT_EQ(value(HKEY_LOCAL_MACHINE, programKey + L"\\CLSID"), textOf(CLSID_TAManager));
+  }
+  EXPECT_EQ(dll.unregisterServer(), S_OK);
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, programKey));
+}
+
+TEST_F(Registration, forTheUserAloneStaysInTheUsersPart) {
+  ASSERT_EQ(dll.install(true, L"user"), S_OK);
+  EXPECT_EQ(value(HKEY_CURRENT_USER, classKey + L"\\InprocServer32"), dll.path());
+  EXPECT_TRUE(exists(HKEY_CURRENT_USER, programKey));
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey));
+  EXPECT_EQ(dll.install(false, L"user"), S_OK);
+  EXPECT_FALSE(exists(HKEY_CURRENT_USER, classKey));
+  EXPECT_FALSE(exists(HKEY_CURRENT_USER, programKey));
+}
+
+TEST_F(Registration, withoutAnArgumentIsForEverybody) {
+  ASSERT_EQ(dll.install(true, nullptr), S_OK);
+  EXPECT_TRUE(exists(HKEY_LOCAL_MACHINE, classKey));
+  EXPECT_EQ(dll.install(false, L""), S_OK);
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey));
+}
+
+}  // namespace
+}  // namespace pelorin::test
