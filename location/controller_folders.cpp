@@ -94,8 +94,11 @@ std::optional<PanelSetup> ControllerFolders::panelSetup(ItemRule rule,
   if (rule == ItemRule::All) return std::nullopt;
   RecordSet setups = nodes_.rows("Select * From PanelBasicSetups Where ControllerID = " +
                                  numberText(std::int64_t{controllerId}));
-  if (!setups.next()) return std::nullopt;
-  return readSetup(setups, rule);
+  std::optional<PanelSetup> setup;
+  while (setups.next()) {
+    if (!setup) setup = readSetup(setups, rule);
+  }
+  return setup;
 }
 
 void ControllerFolders::addItems(TreeNode& folder, const FolderQuery& query,

@@ -40,10 +40,19 @@ void IntegratedDevices::addCentralStations(std::int32_t serverId, TreeNode& serv
   RecordSet rows = nodes_.rows(
       "select ClassName, ClassAddressAbreviation from integratedDeviceclasses where "
       "ClassAddressAbreviation = 'CSR'");
-  // A second row would list the same receivers and accounts again.
-  if (!rows.next()) return;
-  PopulateCSRNodes(nodes_.add(&stations, folderTexts("ID-CSR" + server, rows.text("Classname"))),
-                   serverId);
+  bool listed = false;
+  while (rows.next()) {
+    // A second row would list the same receivers and accounts again.
+    if (listed) continue;
+    listed = true;
+    addReceivers(serverId, stations, rows.text("Classname"));
+  }
+}
+
+void IntegratedDevices::addReceivers(std::int32_t serverId, TreeNode& stations,
+                                     const std::string& className) {
+  const std::string server = numberText(std::int64_t{serverId});
+  PopulateCSRNodes(nodes_.add(&stations, folderTexts("ID-CSR" + server, className)), serverId);
   PopulateCSRAccounts(
       nodes_.add(&stations, folderTexts("CSRACCOUNTS" + server, "Account Management")), serverId);
 }

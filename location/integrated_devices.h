@@ -17,6 +17,7 @@ class IntegratedDevices {
 
  private:
   void addCentralStations(std::int32_t serverId, TreeNode& serverInterface);
+  void addReceivers(std::int32_t serverId, TreeNode& stations, const std::string& className);
   void PopulateDVRNodes(TreeNode& folder, std::int32_t serverId);
   void addCameras(TreeNode& unit, const std::string& unitId);
   void PopulateCSRNodes(TreeNode& parent, std::int32_t serverId);

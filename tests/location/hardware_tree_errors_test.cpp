@@ -18,6 +18,14 @@ class HardwareTreeErrorsTest : public testing::Test {
            {{"ServerID", "Server_Name", "Site_ID"},
             {{number(1), "one", number(1)}, {number(2), "two", number(2)}}});
     for (const char* server : {"1", "2"}) answerServerRows(server);
+    answer("Select * From PanelBasicSetups Where ControllerID = 111",
+           {{"nxinputs", "ef_reb64", "ef_reb1", "ef_reb2", "ef_reb3", "ef_reb4", "ef_reb5",
+             "ef_reb6", "ef_reb7", "ef_reb8"},
+            {std::vector<Value>(10, number(1))}});
+    answer(
+        "select ClassName, ClassAddressAbreviation from integratedDeviceclasses where "
+        "ClassAddressAbreviation = 'CSR'",
+        {{"ClassName", "ClassAddressAbreviation"}, {{"Receivers", "CSR"}}});
   }
   void answer(const std::string& sql, Result result) {
     around.database->answer(sql, std::move(result));
