@@ -27,7 +27,7 @@ struct Table {
   std::vector<ColumnNames> indexes;
 
   // Without regard to case; null when there is none.
-  const Column* column(std::string_view column) const;
+  const Column* column(std::string_view wanted) const;
   bool hasIdentity() const;
 };
 

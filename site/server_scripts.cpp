@@ -45,29 +45,35 @@ void rights(const BatchSink& sink) {
   for (const std::string& procedure : needed.execute) sink(grant("execute", procedure));
 }
 
-// Complains about columns that are missing or of another type.
-void checkColumns(const Table& table, const BatchSink& sink) {
-  for (const Column& column : table.columns) {
-    const std::string type = column.type.isText() ? "nvarchar" : sqlTypeText(column.type);
-    sink(
-        "if not exists (select 1 from information_schema.columns where table_schema = N'dbo'"
-        " and table_name = N'" +
-        table.name + "' and column_name = N'" + column.name + "' and data_type = N'" + type +
-        "')\nprint N'Column " + table.name + "." + column.name + " is missing or not " + type +
-        ".'");
-  }
+// Complains about a column that is missing or of another type.
+std::string columnCheck(const Table& table, const Column& column) {
+  const std::string type = column.type.isText() ? "nvarchar" : sqlTypeText(column.type);
+  return "if not exists (select 1 from information_schema.columns where table_schema = N'dbo'"
+         " and table_name = N'" +
+         table.name + "' and column_name = N'" + column.name + "' and data_type = N'" + type +
+         "')\nprint N'Column " + table.name + "." + column.name + " is missing or not " + type +
+         ".'";
 }
 
-void checkParameters(const Procedure& procedure, const BatchSink& sink) {
-  for (std::size_t at = 0; at < procedure.parameters.size(); ++at) {
-    const std::string& parameter = procedure.parameters[at].name;
-    const std::string position = std::to_string(at + 1);
-    sink(
-        "if not exists (select 1 from information_schema.parameters where specific_schema = "
-        "N'dbo' and specific_name = N'" +
-        procedure.name + "' and parameter_name = N'" + parameter +
-        "' and ordinal_position = " + position + ")\nprint N'Parameter " + position + " of " +
-        procedure.name + " is not " + parameter + ".'");
+// Calls pass their arguments by position.
+std::string parameterCheck(const Procedure& procedure, std::size_t at) {
+  const std::string& parameter = procedure.parameters[at].name;
+  const std::string position = std::to_string(at + 1);
+  return "if not exists (select 1 from information_schema.parameters where specific_schema = "
+         "N'dbo' and specific_name = N'" +
+         procedure.name + "' and parameter_name = N'" + parameter +
+         "' and ordinal_position = " + position + ")\nprint N'Parameter " + position + " of " +
+         procedure.name + " is not " + parameter + ".'";
+}
+
+void checkSource(const BatchSink& sink) {
+  for (const Table& table : siteSchema().tables()) {
+    for (const Column& column : table.columns) sink(columnCheck(table, column));
+  }
+  for (const Procedure& procedure : siteProcedures()) {
+    for (std::size_t at = 0; at < procedure.parameters.size(); ++at) {
+      sink(parameterCheck(procedure, at));
+    }
   }
 }
 
@@ -90,8 +96,7 @@ void checkStatements(const BatchSink& sink) {
 
 void check(const BatchSink& sink) {
   sessionSettings(sink);
-  for (const Table& table : siteSchema().tables()) checkColumns(table, sink);
-  for (const Procedure& procedure : siteProcedures()) checkParameters(procedure, sink);
+  checkSource(sink);
   checkStatements(sink);
 }
 

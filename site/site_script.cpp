@@ -23,7 +23,8 @@ constexpr const char* usage =
     "generated one.\n";
 
 int numberOf(const std::string& text) {
-  if (text.empty() || text.size() > 8 || text.find_first_not_of("0123456789") != text.npos) {
+  if (text.empty() || text.size() > 8 ||
+      text.find_first_not_of("0123456789") != std::string::npos) {
     throw RunTimeError(pelorin::error_number::invalidPropertyValue,
                        "'" + text + "' is not a number.");
   }

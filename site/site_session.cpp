@@ -1,6 +1,6 @@
 #include "site/site_session.h"
 
-#include <exception>
+#include <algorithm>
 #include <utility>
 
 #include "site/batch_reader.h"
@@ -63,10 +63,8 @@ void takeOutputs(EngineStatement& statement, const Procedure& procedure, Procedu
 }
 
 bool hasOutputs(const Procedure& procedure) {
-  for (const site::Parameter& parameter : procedure.parameters) {
-    if (parameter.output) return true;
-  }
-  return false;
+  return std::any_of(procedure.parameters.begin(), procedure.parameters.end(),
+                     [](const site::Parameter& parameter) { return parameter.output; });
 }
 
 std::vector<site::Argument> argumentsOf(const ProcedureCall& call) {

@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 #include <regex>
 #include <set>
 #include <tuple>
@@ -377,6 +379,15 @@ TEST(CheckScript, sendsEveryStatementWordForWordAndUndoesIt) {
       std::find(batches.begin(), batches.end(), "if @@trancount > 0 rollback transaction");
   EXPECT_LT(begin, std::find(batches.begin(), batches.end(), siteStatements().front().text));
   EXPECT_LT(std::find(batches.begin(), batches.end(), siteStatements().back().text), end);
+}
+
+TEST(AdministratorsPage, namesEveryTable) {
+  std::ifstream file(PELORIN_DATABASE_PAGE, std::ios::binary);
+  const std::string page{std::istreambuf_iterator<char>(file), {}};
+  for (const Table& table : siteSchema().tables()) {
+    EXPECT_THAT(page, HasSubstr("`" + table.name + "`"));
+  }
+  EXPECT_THAT(page, HasSubstr(componentRole));
 }
 
 // The columns of the tables that a select reads from, and the names it gives.
