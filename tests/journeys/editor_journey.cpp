@@ -1,0 +1,171 @@
+#include "tests/journeys/editor_journey.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "site/schema.h"
+
+namespace pelorin::test {
+
+namespace {
+
+TreeNode* nodeTagged(const std::vector<std::unique_ptr<TreeNode>>& nodes, const std::string& tag) {
+  for (const auto& node : nodes) {
+    if (node->tag == tag) return node.get();
+    if (TreeNode* below = nodeTagged(node->children(), tag)) return below;
+  }
+  return nullptr;
+}
+
+std::string tableQuery(const site::Table& table) {
+  std::string sql = "select * from " + table.name;
+  const char* separator = " order by ";
+  for (const std::string& column : table.key) {
+    sql += separator + ('[' + column + ']');
+    separator = ", ";
+  }
+  return sql;
+}
+
+std::vector<std::string> rowsOf(Connection& connection, const std::string& sql) {
+  std::vector<std::string> found;
+  RecordSet rows = connection.open(sql);
+  while (rows.next()) {
+    std::string row;
+    for (int column = 0; column < static_cast<int>(rows.columns().size()); ++column) {
+      if (column > 0) row += " | ";
+      row += isNull(rows.value(column)) ? "null" : rows.text(column);
+    }
+    found.push_back(row);
+  }
+  return found;
+}
+
+class FlagDuring {
+ public:
+  FlagDuring(bool& flag, bool value) : flag_(flag), before_(std::exchange(flag, value)) {}
+  FlagDuring(const FlagDuring&) = delete;
+  FlagDuring& operator=(const FlagDuring&) = delete;
+  ~FlagDuring() { flag_ = before_; }
+
+ private:
+  bool& flag_;
+  bool before_;
+};
+
+}  // namespace
+
+EditorJourney::EditorJourney() {
+  services->newerHardware = true;
+  services->operatorId = 1;
+  services->workStationId = 1;
+  services->texts = {{1677, "Call camera"}, {1675, "Raise alarm"}, {1821, "Acknowledge alarm"},
+                     {2161, "<No preset>"}, {3553, "<No group>"},  {2835, "Added"}};
+  environment.settings["C:\\Component\\CCTV\\PERIMETER.INI|UNSUPPORTED|Action3"] = "1";
+  site.session()->observe([this](const StatementRecord& statement) {
+    if (!watching_) return;
+    journal.add("sql: " + statement.text);
+    sent_.push_back({statement.text, database->acts()});
+  });
+  component.module().setNTConnection(services);
+  component.module().setDBConnection(database);
+}
+
+EditorJourney::~EditorJourney() {
+  site.session()->observe({});
+}
+
+Form& EditorJourney::form(const std::string& name) const {
+  Form* open = screen.open<Form>(name);
+  if (open == nullptr) throw std::logic_error(name + " is not open");
+  return *open;
+}
+
+frmTriggerAction& EditorJourney::editor() const {
+  return dynamic_cast<frmTriggerAction&>(form("frmTriggerAction"));
+}
+
+void EditorJourney::press(const std::string& formName, const std::string& button) const {
+  form(formName).userPress(on<Button>(formName, button));
+}
+
+void EditorJourney::edit(const std::string& deviceClass, int id) const {
+  Grid& grid = on<Grid>("frmTASummary", "MSFlexGrid1");
+  for (int row = 1; row < grid.rows(); ++row) {
+    if (grid.cell(row, 3) != deviceClass || grid.cell(row, 5) != std::to_string(id)) continue;
+    grid.userSelectRow(row);
+    press("frmTASummary", "cmdAddEdit(1)");
+    return;
+  }
+  throw std::logic_error("the summary has no such trigger");
+}
+
+void EditorJourney::tickFilter(const std::string& text) const {
+  auto& filters = inEditor<ListBox>("lstEventFilters");
+  for (int row = 0; row < filters.listCount(); ++row) {
+    if (filters.row(row).text == text) filters.userToggle(row);
+  }
+}
+
+void EditorJourney::checkEvent(int eventId) const {
+  auto& events = inEditor<ListView>("lvwEvents");
+  for (int row = 1; row <= events.count(); ++row) {
+    if (events.item(row).subItems.front() == eventNumberText(eventId)) events.userCheck(row, true);
+  }
+}
+
+void EditorJourney::pickLocations(const std::vector<std::string>& tags) const {
+  press("cmdAddLocation");
+  auto& tree = on<TreeView>("FLocation", "tvTree");
+  for (const std::string& tag : tags) {
+    TreeNode* node = nodeTagged(tree.roots(), tag);
+    if (node == nullptr) continue;
+    tree.userSelect(*node);
+    tree.userDoubleClick();
+  }
+  form("FLocation").unload();
+}
+
+void EditorJourney::choose(const std::string& combo, const std::string& text) const {
+  auto& rows = inEditor<ComboBox>(combo);
+  for (int row = 0; row < rows.listCount(); ++row) {
+    if (rows.row(row).text == text) return rows.userSelect(row);
+  }
+}
+
+SiteRows EditorJourney::rows() const {
+  const FlagDuring unwatched(watching_, false);
+  SiteRows found;
+  for (const site::Table& table : site::siteSchema().tables()) {
+    found[table.name] = rowsOf(*direct, tableQuery(table));
+  }
+  return found;
+}
+
+std::vector<std::string> EditorJourney::statementsAndAudits() const {
+  std::vector<std::string> found;
+  for (const std::string& line : journal.lines()) {
+    if (line.starts_with("sql: ") || line.starts_with("host: LogEvent")) found.push_back(line);
+  }
+  return found;
+}
+
+int EditorJourney::actsBeforeReload() const {
+  const auto reload = std::find_if(sent_.rbegin(), sent_.rend(), [](const Sent& sent) {
+    return sent.statement.starts_with("select CCTV_TriggerAction.*");
+  });
+  return reload == sent_.rend() ? database->acts() : reload->act - 1;
+}
+
+SiteRows added(const SiteRows& before, const SiteRows& after) {
+  SiteRows found;
+  for (const auto& [table, rows] : after) {
+    const std::vector<std::string>& old = before.at(table);
+    for (const std::string& row : rows) {
+      if (std::find(old.begin(), old.end(), row) == old.end()) found[table].push_back(row);
+    }
+  }
+  return found;
+}
+
+}  // namespace pelorin::test
