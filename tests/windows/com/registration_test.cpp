@@ -84,6 +84,10 @@ TEST_F(Registration, makesTheTypeLibraryKnown) {
   ASSERT_EQ(dll.registerServer(), S_OK);
   ComPtr<ITypeLib> library;
   EXPECT_EQ(LoadRegTypeLib(LIBID_Pelorin, 1, 0, LOCALE_NEUTRAL, library.put()), S_OK);
+  // Calls from another apartment find the library, and with it the automation marshaler.
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE,
+                  L"Software\\Classes\\Interface\\" + textOf(IID__TAManager) + L"\\TypeLib"),
+            textOf(LIBID_Pelorin));
 }
 
 TEST_F(Registration, canBeRepeated) {

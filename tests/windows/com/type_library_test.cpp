@@ -102,13 +102,18 @@ TEST_F(TypeLibrary, namesTheArgumentsOfOnEvent) {
                           L"DateTimePC", L"Address", L"MessageDescription", L"MessageValues"));
 }
 
-TEST_F(TypeLibrary, hasADualInterface) {
+WORD flagsOf(ITypeInfo* info) {
   TYPEATTR* attributes = nullptr;
-  const auto info = type(IID__TAManager);
   check(info->GetTypeAttr(&attributes));
-  EXPECT_NE(attributes->wTypeFlags & TYPEFLAG_FDUAL, 0);
-  EXPECT_NE(attributes->wTypeFlags & TYPEFLAG_FOLEAUTOMATION, 0);
+  const WORD flags = attributes->wTypeFlags;
   info->ReleaseTypeAttr(attributes);
+  return flags;
+}
+
+TEST_F(TypeLibrary, hasADualInterfaceOfAutomationTypes) {
+  const auto info = type(IID__TAManager);
+  EXPECT_NE(flagsOf(info.get()) & TYPEFLAG_FDUAL, 0);
+  EXPECT_NE(flagsOf(tableOf(info).get()) & TYPEFLAG_FOLEAUTOMATION, 0);
 }
 
 TEST_F(TypeLibrary, hasOneClassWithThatInterface) {
