@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::size_t expectedRows = std::size(typical::addresses) * std::size(typical::events);
 constexpr std::size_t shownColumns = 5;
-constexpr std::size_t triggerColumn = 5;
 
 template <class Entry>
 std::vector<Entry> since(const std::vector<Entry>& entries, std::size_t mark) {
@@ -22,18 +21,18 @@ std::vector<Entry> since(const std::vector<Entry>& entries, std::size_t mark) {
           entries.end()};
 }
 
-std::vector<Statement> inserts(const Stage& stage, const LogMarks& marks) {
+std::vector<Statement> inserts(const Stage& stage, const Standing& before) {
   std::vector<Statement> all = stage.ui().run(
-      [&] { return since(stage.session().statements().statements(), marks.statements); });
+      [&] { return since(stage.session().statements().statements(), before.statements); });
   std::erase_if(all, [](const Statement& statement) {
     return !statement.text.starts_with("exec CCTV_Insert_TA ");
   });
   return all;
 }
 
-std::vector<AuditRecord> records(const Stage& stage, const LogMarks& marks) {
+std::vector<AuditRecord> records(const Stage& stage, const Standing& before) {
   return stage.ui().run(
-      [&] { return since(stage.session().data().audit().records(), marks.records); });
+      [&] { return since(stage.session().data().audit().records(), before.records); });
 }
 
 std::string milliseconds(double time) {
@@ -69,32 +68,26 @@ void tellRows(const Stage& stage, const std::string& title, const std::vector<Ro
   }
 }
 
-// The keys of rows that were not there before.
-std::vector<std::string> newKeys(const SummaryRows& rows) {
-  std::set<std::string> old;
-  for (const Row& row : rows.before) old.insert(row.at(triggerColumn));
-  std::vector<std::string> keys;
-  for (const Row& row : rows.after) {
-    if (!old.contains(row.at(triggerColumn))) keys.push_back(row.at(triggerColumn));
-  }
-  return keys;
-}
-
-bool isAsRequested(RecordSet& row) {
+bool isAsRequested(const RecordSet& row) {
   return row.int32("SwitcherID") == typical::switcher && row.int32("Camera") == typical::camera &&
          row.int32("Monitor") == typical::monitor && row.int32("A_type") == 1;
 }
 
-// Address and event of each new row that is in the file as it was asked for. The file is opened
-// anew: what counts is what another program would find in it.
-std::set<std::string> storedPairs(const std::string& file, const std::vector<std::string>& keys) {
-  const std::unique_ptr<Connection> database = SiteDatabase::open(file).connect();
+// The file is opened anew: what counts is what another program would find in it.
+RecordSet storedTriggers(const std::string& file) {
+  return SiteDatabase::open(file).connect()->open(
+      "select CCTV_TriggerAction.*, CCTV_Switchers.[name] as SwitcherName from CCTV_TriggerAction "
+      " inner join CCTV_Switchers on CCTV_Switchers.SwitcherId = CCTV_TriggerAction.SwitcherId "
+      "order by t_Address, T_EventID");
+}
+
+// Address and event of each new row that is stored as it was asked for.
+std::set<std::string> newPairs(const std::string& file, const std::set<std::string>& old) {
   std::set<std::string> pairs;
-  for (const std::string& key : keys) {
-    RecordSet row = database->open("select * from CCTV_TriggerAction where TA_ID = " + key);
-    if (row.next() && isAsRequested(row)) {
-      pairs.insert(row.text("T_Address") + " " + row.text("T_EventID"));
-    }
+  RecordSet row = storedTriggers(file);
+  while (row.next()) {
+    if (old.contains(row.text("TA_ID")) || !isAsRequested(row)) continue;
+    pairs.insert(row.text("T_Address") + " " + row.text("T_EventID"));
   }
   return pairs;
 }
@@ -117,17 +110,21 @@ bool areAdditions(const std::vector<AuditRecord>& all) {
 
 }  // namespace
 
-LogMarks marksOf(const Stage& stage) {
-  return stage.ui().run([&] {
-    return LogMarks{.statements = stage.session().statements().statements().size(),
-                    .records = stage.session().data().audit().records().size()};
+Standing standing(const Stage& stage, const std::string& file) {
+  Standing now = stage.ui().run([&] {
+    return Standing{.statements = stage.session().statements().statements().size(),
+                    .records = stage.session().data().audit().records().size(),
+                    .triggers = {}};
   });
+  RecordSet row = storedTriggers(file);
+  while (row.next()) now.triggers.insert(row.text("TA_ID"));
+  return now;
 }
 
-std::vector<std::string> tellOutcome(const Stage& stage, const LogMarks& marks,
+std::vector<std::string> tellOutcome(const Stage& stage, const Standing& before,
                                      const SummaryRows& rows, const std::string& file) {
-  const std::vector<Statement> sent = inserts(stage, marks);
-  const std::vector<AuditRecord> logged = records(stage, marks);
+  const std::vector<Statement> sent = inserts(stage, before);
+  const std::vector<AuditRecord> logged = records(stage, before);
   tellStatements(stage, sent);
   tellRecords(stage, logged);
   tellRows(stage, "Summary before", rows.before);
@@ -141,7 +138,7 @@ std::vector<std::string> tellOutcome(const Stage& stage, const LogMarks& marks,
          "the audit log did not get its four records");
   expect(rows.after.size() == rows.before.size() + expectedRows,
          "the summary did not grow by four rows");
-  expect(storedPairs(file, newKeys(rows)) == expectedPairs(),
+  expect(newPairs(file, before.triggers) == expectedPairs(),
          "the database does not hold the four rows");
   return faults;
 }

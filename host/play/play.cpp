@@ -39,9 +39,9 @@ class TemporaryDatabase {
 };
 
 bool playAndCheck(Stage& stage, const std::string& file) {
-  const LogMarks marks = marksOf(stage);
+  const Standing before = standing(stage, file);
   const SummaryRows rows = playTypicalRequest(stage);
-  const std::vector<std::string> faults = tellOutcome(stage, marks, rows, file);
+  const std::vector<std::string> faults = tellOutcome(stage, before, rows, file);
   for (const std::string& fault : faults) printError("FAILED: " + fault);
   if (faults.empty()) stage.tell("\nAll as expected.");
   return faults.empty();

@@ -14,10 +14,10 @@ namespace {
 
 constexpr const char* category = "Alarm";
 constexpr const char* eventNumbers[] = {"00001", "00002"};
-constexpr const char* doors[] = {"Main entrance", "Revolving door"};
+constexpr const char* doors[] = {"Revolving door", "Visitor gate"};
 constexpr const char* switcherName = "Main building switcher";
-constexpr const char* cameraName = "Reception desk";
-constexpr const char* monitorName = "3";
+constexpr const char* cameraName = "Revolving door";
+constexpr const char* monitorName = "2";
 
 int rowOf(HWND list, int column, const std::string& text) {
   return *waitFor("row " + text, [&]() -> std::optional<int> {
