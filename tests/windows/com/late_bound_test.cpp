@@ -122,13 +122,15 @@ TEST_F(LateBoundTest, errorWithAPlainCodeIsThatCode) {
   EXPECT_EQ(errorFrom([&] { object.call(L"Member"); }).number(), 1004);
 }
 
+HRESULT STDAPICALLTYPE fillInLate(EXCEPINFO* info) {
+  info->scode = E_ACCESSDENIED;
+  info->bstrDescription = Bstr(std::wstring_view(L"late text")).release();
+  return S_OK;
+}
+
 TEST_F(LateBoundTest, errorThatFillsInLateIsAsked) {
   fake->on(L"Member", [](Call& call) {
-    call.exception->pfnDeferredFillIn = [](EXCEPINFO* info) -> HRESULT {
-      info->scode = E_ACCESSDENIED;
-      info->bstrDescription = Bstr(std::wstring_view(L"late text")).release();
-      return S_OK;
-    };
+    call.exception->pfnDeferredFillIn = fillInLate;
     return DISP_E_EXCEPTION;
   });
   const RunTimeError error = errorFrom([&] { object.call(L"Member"); });
