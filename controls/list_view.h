@@ -30,10 +30,10 @@ struct ListItem {
   std::int32_t data = 0;  // what the form keeps with the row
 };
 
-// A row on its way into the list.
+// A row on its way into the list, in front of the item that has number `before` until then; count
+// + 1: at the end.
 struct ListInsertion {
-  int before;  // number, before any insertion, of the item that it goes in front of; count + 1:
-               // last
+  int before = 0;
   ListItem item;
 };
 

@@ -6,7 +6,7 @@ namespace pelorin {
 // Sets a flag while it lives, also when an error ends the filling.
 class FlagWhile {
  public:
-  explicit FlagWhile(bool& flag) noexcept : flag_(flag) { flag_ = true; }
+  explicit FlagWhile(bool& flag) noexcept : flag_(flag) { flag = true; }
   FlagWhile(const FlagWhile&) = delete;
   FlagWhile& operator=(const FlagWhile&) = delete;
   ~FlagWhile() { flag_ = false; }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <string>
 
 #include "controls/run_time_error.h"
@@ -45,8 +46,8 @@ void RecordRateTable::LoadRecordRateCombo(ComboBox& combo, std::int16_t& standar
 std::int16_t RecordRateTable::FindRecordRateIndex(std::int16_t& standard, double rate) const {
   standard = knownStandard(standard);
   const Rates& rates = ratesOf(standard);
-  const auto found = std::find(rates.begin(), rates.end(), rate);
-  return found == rates.end() ? defaultIndex : static_cast<std::int16_t>(found - rates.begin());
+  const auto index = std::find(rates.begin(), rates.end(), rate) - rates.begin();
+  return index == std::ssize(rates) ? defaultIndex : static_cast<std::int16_t>(index);
 }
 
 double RecordRateTable::GetRecordRate(std::int16_t standard, std::int16_t rateIndex) const {
