@@ -9,6 +9,8 @@ namespace pelorin::test {
 
 namespace {
 
+constexpr std::chrono::milliseconds pause{10};
+
 // The controls of a dialog as far as they tell a message box from another dialog.
 struct Content {
   bool plain = true;  // nothing but texts and buttons
@@ -69,7 +71,11 @@ BOOL CALLBACK examine(HWND window, LPARAM parameter) {
 BoxWatcher::BoxWatcher(DWORD process) : process_(process), thread_([this] { watch(); }) {}
 
 BoxWatcher::~BoxWatcher() {
-  ending_ = true;
+  {
+    const std::lock_guard lock(mutex_);
+    ending_ = true;
+  }
+  ended_.notify_one();
   thread_.join();
 }
 
@@ -85,9 +91,11 @@ std::vector<std::string> BoxWatcher::texts() const {
 }
 
 void BoxWatcher::watch() {
-  while (!ending_) {
+  std::unique_lock lock(mutex_);
+  while (!ended_.wait_for(lock, pause, [this] { return ending_; })) {
+    lock.unlock();
     answerOpenBox();
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    lock.lock();
   }
 }
 

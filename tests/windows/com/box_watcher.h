@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-#include <atomic>
+#include <condition_variable>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -33,8 +33,9 @@ class BoxWatcher {
   void answerOpenBox();
 
   DWORD process_;
-  std::atomic<bool> ending_ = false;
   mutable std::mutex mutex_;
+  std::condition_variable ended_;
+  bool ending_ = false;
   std::vector<SeenBox> boxes_;
   HWND answered_ = nullptr;
   std::thread thread_;
