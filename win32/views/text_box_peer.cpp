@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "win32/text/utf16.h"
 #include "win32/views/form_window.h"
 #include "win32/views/peers.h"
@@ -19,10 +17,12 @@ class TextBoxPeer final : public Peer {
  public:
   TextBoxPeer(FormWindow& window, TextBox& box) : Peer(window, box), box_(box) {}
 
+  // One line stands at the top of the box: the height is that of the line, not of the design's
+  // font.
   RECT adjusted(const RECT& place) const override {
     const int borders = 2 * GetSystemMetrics(SM_CYEDGE) + 2;
     RECT rect = place;
-    rect.bottom = std::max<LONG>(rect.bottom, rect.top + window().fonts().lineHeight() + borders);
+    rect.bottom = rect.top + window().fonts().lineHeight() + borders;
     return rect;
   }
 

@@ -23,7 +23,7 @@ class SampleForm : public Form {
 
   TabControl tabs{"tabs", {120, 120, 9000, 5400}, {"&First", "&Second"}};
   Label lblName{"lblName", {150, 240, 900, 195}, "&Name:"};
-  TextBox txtName{"txtName", {1200, 200, 2400, 315}, "some text"};
+  TextBox txtName{"txtName", {1200, 200, 2400, 315}};
   Label lblKind{"lblKind", {150, 700, 900, 195}, "&Kind:"};
   ComboBox cmbKind{"cmbKind", {1200, 650, 2400, 315}};
   CheckBox chkActive{"chkActive", {1200, 1100, 2400, 255}, "A&ctive"};
