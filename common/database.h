@@ -102,7 +102,7 @@ class Connection {
   // Reads forward-only and read-only.
   RecordSet open(std::string_view sql, SourceLine where = SourceLine::current());
   void execute(std::string_view sql, SourceLine where = SourceLine::current());
-  void execute(ProcedureCall& call, SourceLine where = SourceLine::current());
+  void execute(ProcedureCall& procedure, SourceLine where = SourceLine::current());
 
  protected:
   virtual std::unique_ptr<Cursor> openCursor(std::string_view sql) = 0;

@@ -15,6 +15,8 @@ template <class... Cases>
 struct Overloaded : Cases... {
   using Cases::operator()...;
 };
+template <class... Cases>
+Overloaded(Cases...) -> Overloaded<Cases...>;
 
 [[noreturn]] void overflow() {
   throw RunTimeError(error_number::overflow, "Overflow");

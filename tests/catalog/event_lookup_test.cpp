@@ -79,6 +79,31 @@ TEST_F(EventDescriptionTest, WithoutRowIsEmptyAndAsksNoHost) {
   EXPECT_THAT(journal.lines(), SizeIs(1));
 }
 
+// Notes how many results are open when the host is asked.
+class WatchingServices : public RecordingServices {
+ public:
+  WatchingServices(Journal& journal, ScriptedConnection& database)
+      : RecordingServices(journal), database_(database) {}
+  std::vector<int> openDuringCalls;
+
+ protected:
+  bool readBoolean(const char* property) override {
+    openDuringCalls.push_back(database_.openCursors());
+    return RecordingServices::readBoolean(property);
+  }
+
+ private:
+  ScriptedConnection& database_;
+};
+
+TEST_F(EventDescriptionTest, NoResultIsOpenWhileTheHostIsAsked) {
+  answerDescription(descriptionQuery("DoorEvents", 42), "", "Door forced");
+  const auto watching = std::make_shared<WatchingServices>(surroundings.journal, database);
+  module.setNTConnection(watching);
+  catalogue.GetEventDescription(42);
+  EXPECT_THAT(watching->openDuringCalls, ElementsAre(0));
+}
+
 TEST_F(EventDescriptionTest, IsReadAtEachCall) {
   answerDescription(descriptionQuery("DoorEvents", 42), "", "Door forced");
   catalogue.GetEventDescription(42);

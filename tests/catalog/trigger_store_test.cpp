@@ -80,10 +80,26 @@ TEST_F(DeleteTriggerTest, OfAnUnknownClassLeavesItsActionAlone) {
   EXPECT_THAT(database.statements(), ElementsAre(query, deleteTrigger));
 }
 
+// Notes how many results are open when a statement that writes runs.
+class WatchedConnection : public ScriptedConnection {
+ public:
+  using ScriptedConnection::ScriptedConnection;
+  std::vector<int> openDuringWrites;
+
+ protected:
+  void run(std::string_view sql) override {
+    openDuringWrites.push_back(openCursors());
+    ScriptedConnection::run(sql);
+  }
+};
+
 TEST_F(DeleteTriggerTest, NoResultIsOpenWhileItDeletes) {
-  answerTrigger(std::int64_t{31}, std::int64_t{1});
+  const auto watched = std::make_shared<WatchedConnection>(surroundings.journal);
+  watched->answer(query,
+                  {{"ActionId", "IntegratedDeviceClassId"}, {{std::int64_t{31}, std::int64_t{1}}}});
+  module.setDBConnection(watched);
   DeleteTriggerAction(module, 7);
-  EXPECT_EQ(database.openCursors(), 0);
+  EXPECT_THAT(watched->openDuringWrites, ElementsAre(0, 0));
 }
 
 TEST_F(DeleteTriggerTest, FailureStopsAtThatPointAndIsReportedOnce) {

@@ -140,12 +140,13 @@ TEST_F(SummaryFailureTest, WindowClosedDuringAReportStopsTheLoad) {
 }
 
 TEST_F(SummaryFailureTest, WindowClosedDuringAReportOfTheListStopsTheLoad) {
-  answerThree();
+  answerCctv({cctvRow(5, "1.1", 42, 1, "Matrix"), cctvRow(6, "1.2", 5001, 1, "Matrix")});
   database.fail(descriptionQuery(42));
   screen.duringBox = [this](const BoxRequest&) { form.unload(); };
   screen.show(form);
   EXPECT_THAT(database.statements(), ElementsAre(typesQuery, cctvQuery, descriptionQuery(42)));
   EXPECT_FALSE(form.isOpen());
+  EXPECT_THAT(rows(), IsEmpty());
 }
 
 TEST_F(SummaryFailureTest, WindowClosedDuringAReportOfTheOthersStopsTheLoad) {
@@ -155,6 +156,7 @@ TEST_F(SummaryFailureTest, WindowClosedDuringAReportOfTheOthersStopsTheLoad) {
   screen.show(form);
   EXPECT_THAT(database.statements(),
               AllOf(Contains(dvrNameQuery(31)), testing::Not(Contains(descriptionQuery(5001)))));
+  EXPECT_THAT(rows(), ElementsAre(cctvLine));
 }
 
 }  // namespace
