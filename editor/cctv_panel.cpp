@@ -28,7 +28,7 @@ struct CctvPanel::StoredAction {
 };
 
 CctvPanel::CctvPanel(Module1& module, TabControl& tabs, int page)
-    : fraCCTVAction("fraCCTVAction", {180, 1080, 9600, 4400}, "CCTV Action"),
+    : fraCCTVAction("fraCCTVAction", {180, 1080, 9600, 5550}, "CCTV Action"),
       lblCCTVSwitchers("lblCCTVSwitchers", {240, 465, 1140, 255}, "Switcher:"),
       cmbCCTVSwitchers("cmbCCTVSwitchers", {1440, 420, 4500, 330}),
       cmbCCTVHiddenININameCache("cmbCCTVHiddenININameCache", {6300, 420, 1500, 330}),

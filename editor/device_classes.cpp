@@ -8,8 +8,8 @@ namespace pelorin {
 
 DeviceClasses::DeviceClasses(Module1& module, TabControl& tabs, int page, Frame& fraCCTVAction,
                              Frame& fraDVRAction)
-    : lblActionDeviceClass("lblActionDeviceClass", {180, 585, 1500, 255}, "Device Type:"),
-      cmbActionDeviceClass("cmbActionDeviceClass", {1800, 540, 4200, 330}),
+    : lblActionDeviceClass("lblActionDeviceClass", {180, 585, 1380, 255}, "Device Type:"),
+      cmbActionDeviceClass("cmbActionDeviceClass", {1620, 540, 4500, 330}),
       module_(module),
       fraCCTVAction_(fraCCTVAction),
       fraDVRAction_(fraDVRAction) {

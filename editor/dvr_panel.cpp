@@ -45,7 +45,7 @@ struct DvrPanel::StoredAction {
 };
 
 DvrPanel::DvrPanel(Module1& module, TabControl& tabs, int page)
-    : fraDVRAction("fraDVRAction", {180, 1080, 9600, 4400}, "Trigger Alarm on DVR"),
+    : fraDVRAction("fraDVRAction", {180, 1080, 9600, 5550}, "Trigger Alarm on DVR"),
       lblDVRUnit("lblDVRUnit", {240, 465, 3300, 255}, "DVR:"),
       cmbDVRUnit("cmbDVRUnit", {3600, 420, 4500, 330}),
       lblDVRCamera("lblDVRCamera", {240, 945, 3300, 255}, "Camera:"),
