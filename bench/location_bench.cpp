@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "location/hardware_tree.h"
-#include "site/site_database.h"
+#include "site/large_site.h"
 #include "tests/fakes/surroundings.h"
 
 namespace pelorin::test {
@@ -68,27 +68,44 @@ class TimedConnection : public Connection {
   SiteSession& session_;
 };
 
+struct Load {
+  Clock::duration total = Clock::duration::max();
+  Clock::duration statements{};
+  int nodes = 0;
+};
+
+Load buildOnce(Module1& module, TimedConnection& connection) {
+  TreeView tree("tvTree", {});
+  LocationNodes builder(module, tree, [] { return true; });
+  Load load;
+  connection.statements = {};
+  const Clock::time_point start = Clock::now();
+  const bool whole = HardwareTree(builder, true).RefreshHardware();
+  load.total = Clock::now() - start;
+  load.statements = connection.statements;
+  load.nodes = whole ? tree.count() : 0;
+  return load;
+}
+
+// The quickest load counts: the others were held up by whatever else the machine does.
 void buildLocationTree(benchmark::State& state) {
   const SiteDatabase site = SiteDatabase::inMemory(largeSite(size));
   Surroundings surroundings;
   auto connection = std::make_shared<TimedConnection>(*site.session());
   surroundings.module.setDBConnection(connection);
-  Clock::duration total{};
-  int nodes = 0;
+  Load best;
   for (auto iteration : state) {
-    TreeView tree("tvTree", {});
-    LocationNodes builder(surroundings.module, tree, [] { return true; });
-    const Stopwatch watch(total);
-    if (!HardwareTree(builder, true).RefreshHardware()) state.SkipWithError("the tree failed");
-    nodes = tree.count();
+    const Load load = buildOnce(surroundings.module, *connection);
+    if (load.nodes == 0) state.SkipWithError("the tree failed");
+    if (load.total < best.total) best = load;
   }
   const auto seconds = [](Clock::duration time) {
     return std::chrono::duration<double>(time).count();
   };
-  const double statements = seconds(connection->statements);
-  state.counters["nodes"] = nodes;
-  state.counters["statements_s"] = statements / static_cast<double>(state.iterations());
-  state.counters["own_to_statements"] = (seconds(total) - statements) / statements;
+  state.counters["nodes"] = best.nodes;
+  state.counters["statements_s"] = seconds(best.statements);
+  state.counters["own_to_statements"] =
+      seconds(best.total - best.statements) / seconds(best.statements);
 }
 
 BENCHMARK(buildLocationTree)->Unit(benchmark::kMillisecond);

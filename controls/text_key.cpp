@@ -24,7 +24,7 @@ std::string lowerCase(std::string_view text) {
   return result;
 }
 
-std::size_t NoCaseHash::operator()(std::string_view text) const noexcept {
+std::size_t NoCaseHash::operator()(std::string_view text) const {
   std::uint64_t hash = 14695981039346656037U;
   for (char c : text) hash = (hash ^ static_cast<unsigned char>(lower(c))) * 1099511628211U;
   return static_cast<std::size_t>(hash);

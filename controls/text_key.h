@@ -12,7 +12,9 @@ std::string lowerCase(std::string_view text);
 
 struct NoCaseHash {
   using is_transparent = void;
-  std::size_t operator()(std::string_view text) const noexcept;
+  // Not noexcept on purpose: the standard library then keeps the hash with each key instead of
+  // computing it again for every neighbour it passes.
+  std::size_t operator()(std::string_view text) const;
 };
 
 struct NoCaseEqual {

@@ -11,15 +11,15 @@ TreeView::TreeView(std::string name, Place place)
     : Control(ControlKind::TreeView, std::move(name), place) {}
 
 TreeNode* TreeView::find(std::string_view key) const {
-  const auto found = keys_.find(key);
-  return found == keys_.end() ? nullptr : found->second;
+  return keys_.find(key);
 }
 
 TreeNode& TreeView::add(TreeNode* parent, NodeTexts texts) {
   auto node = std::make_unique<TreeNode>();
-  const auto [place, isNew] = keys_.emplace(texts.key, node.get());
-  if (!isNew) throw RunTimeError(error_number::keyNotUnique, "Key is not unique in collection");
   node->key = std::move(texts.key);
+  if (!keys_.insert(*node)) {
+    throw RunTimeError(error_number::keyNotUnique, "Key is not unique in collection");
+  }
   node->text = std::move(texts.text);
   node->tag = std::move(texts.tag);
   node->image = texts.image;
@@ -40,7 +40,7 @@ TreeNode& TreeView::addUnder(std::string_view parentKey, NodeTexts texts) {
 void TreeView::forget(const TreeNode& node) {
   for (const auto& child : node.children_) forget(*child);
   if (&node == selected_) selected_ = nullptr;
-  keys_.erase(node.key);
+  keys_.erase(node);
 }
 
 void TreeView::remove(TreeNode& node) {

@@ -7,17 +7,16 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "controls/control.h"
-#include "controls/text_key.h"
+#include "controls/node_index.h"
 
 namespace pelorin {
 
 class TreeNode {
  public:
-  std::string key;
+  std::string key;  // stays as it was added
   std::string text;
   std::string tag;
   int image = 0;          // 1-based cell of the image list, 0: none
@@ -85,7 +84,7 @@ class TreeView : public Control {
   void forget(const TreeNode& node);
 
   std::vector<std::unique_ptr<TreeNode>> roots_;
-  std::unordered_map<std::string, TreeNode*, NoCaseHash, NoCaseEqual> keys_;
+  NodeIndex keys_;
   TreeNode* selected_ = nullptr;
   ImageStrip images_;
 };

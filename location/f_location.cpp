@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "common/guard.h"
+#include "controls/text_key.h"
 #include "location/hardware_tree.h"
 #include "location/layout.h"
 #include "location/location_text.h"

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "common/guard.h"
+#include "controls/text_key.h"
 #include "controls/tree_view.h"
 
 namespace pelorin {
