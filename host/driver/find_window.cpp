@@ -87,7 +87,12 @@ HWND findForm(const std::string& name) {
 }
 
 HWND waitForForm(const std::string& name) {
-  return waitFor("window " + name, [&] { return findForm(name); });
+  return waitFor("window " + name, [&] {
+    const HWND form = findForm(name);
+    const std::optional<OpenBox> box = form == nullptr ? findBox() : std::nullopt;
+    if (box) throw DriverError("instead of the window " + name + " a box says: " + box->text);
+    return form;
+  });
 }
 
 void waitUntilClosed(HWND form) {

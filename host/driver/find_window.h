@@ -15,6 +15,7 @@ std::string designName(HWND window);
 
 // The visible top-level window of this process with that design name; null when there is none.
 HWND findForm(const std::string& name);
+// DriverError when a message box opens instead, with its text.
 HWND waitForForm(const std::string& name);
 void waitUntilClosed(HWND form);
 

@@ -77,6 +77,12 @@ void pressKey(HWND window, WORD key) {
   settle(window);
 }
 
+void pressMnemonic(HWND window, char letter) {
+  constexpr LPARAM withAlt = 0x20000001;
+  PostMessageW(window, WM_SYSCHAR, static_cast<WPARAM>(letter), withAlt);
+  settle(window);
+}
+
 void typeText(HWND window, const std::string& text) {
   for (const wchar_t unit : toWide(text)) PostMessageW(window, WM_CHAR, unit, 1);
   settle(window);

@@ -13,6 +13,8 @@ namespace pelorin::host {
 void clickAt(HWND window, POINT point);
 void doubleClickAt(HWND window, POINT point);
 void pressKey(HWND window, WORD key);
+// Alt and a letter, to whatever the window's form does with it.
+void pressMnemonic(HWND window, char letter);
 void typeText(HWND window, const std::string& text);
 
 // Buttons and check boxes. DriverError when it is grey or hidden.

@@ -5,7 +5,6 @@
 #include <optional>
 #include <thread>
 
-#include "host/driver/find_window.h"
 #include "host/play/outcome.h"
 #include "host/play/typical_request.h"
 #include "host/window/main_window.h"
@@ -47,14 +46,6 @@ bool playAndCheck(Stage& stage, const std::string& file) {
   return faults.empty();
 }
 
-// A box that nobody expected is the best explanation there is.
-void tellFailure(const char* what) {
-  printError(std::string("FAILED: ") + what);
-  if (const std::optional<OpenBox> box = findBox()) {
-    printError("An open message box says: " + box->text);
-  }
-}
-
 int playOn(const UiCalls& ui, MainWindow& window, const Options& options) noexcept {
   try {
     const bool documents = !options.picturesFolder.empty();
@@ -63,7 +54,7 @@ int playOn(const UiCalls& ui, MainWindow& window, const Options& options) noexce
                 documents ? options.picturesFolder : options.outputFolder, suffix, printLine);
     return playAndCheck(stage, options.database) ? 0 : 1;
   } catch (const std::exception& error) {
-    tellFailure(error.what());
+    printError(std::string("FAILED: ") + error.what());
     return 1;
   }
 }

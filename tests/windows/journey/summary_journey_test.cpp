@@ -1,0 +1,74 @@
+#include "host/core/resource_texts.h"
+#include "host/window/resource.h"
+#include "tests/windows/journey/journey.h"
+
+namespace pelorin::test {
+namespace {
+
+using host::clickButton;
+using host::control;
+using host::waitFor;
+using testing::ElementsAre;
+
+using SummaryJourney = Journey;
+
+TEST_F(SummaryJourney, TheListShowsCctvTriggersFirstUnderItsFiveHeaders) {
+  openSummary();
+  EXPECT_THAT(host::headersOf(grid()),
+              ElementsAre("Trigger", "Location", "Action", "Type", "Device"));
+  EXPECT_THAT(host::rowsOf(grid()).at(0),
+              ElementsAre("00001 - Door broken open!", "001.01.001.D01", "Call camera to monitor",
+                          "CCTV", "Main building switcher"));
+}
+
+TEST_F(SummaryJourney, DeleteByMouseRemovesTheRowTheTriggerAndIsLogged) {
+  const HWND summary = openSummary();
+  const int before = host::rowCount(grid());
+  host::selectRow(grid(), summaryRow("00001 - Door broken open!", "001.01.007.D01"));
+  clickButton(control(summary, "cmdDelete"));
+  waitFor("one row less", [&] { return host::rowCount(grid()) == before - 1; });
+  EXPECT_EQ(summaryRow("00001 - Door broken open!", "001.01.007.D01"), -1);
+  EXPECT_EQ(stored("select * from CCTV_TriggerAction where TA_ID = 3", "TA_ID"), "");
+  EXPECT_THAT(audit(), ElementsAre("Delete TriggerAction 3 Trigger Event 1 1186"));
+}
+
+TEST_F(SummaryJourney, DeleteByKeyboardRemovesADvrTrigger) {
+  openSummary();
+  const int before = host::rowCount(grid());
+  host::selectRow(grid(), summaryRow("00040 - Water leak detected", "001.01.007.I01"));
+  host::pressMnemonic(grid(), 'D');
+  waitFor("one row less", [&] { return host::rowCount(grid()) == before - 1; });
+  EXPECT_THAT(statements(), testing::Contains("exec TA_DeleteTrigger 2"));
+  EXPECT_THAT(audit(), ElementsAre("Delete TriggerAction 2 Trigger Event 40 1186"));
+}
+
+TEST_F(SummaryJourney, WithoutPermissionATextIsShownAndNoWindow) {
+  host.ui().run([&] { host.session().settings().permitted = false; });
+  clickButton(GetDlgItem(host.window(), IDM_TRIGGER_ACTIONS));
+  EXPECT_EQ(host::answerBox().text, host::resourceText(3575));
+  EXPECT_EQ(host::findForm("frmTASummary"), nullptr);
+}
+
+TEST_F(SummaryJourney, RaisedTwiceItIsStillOneWindow) {
+  const HWND first = openSummary();
+  EXPECT_EQ(openSummary(), first);
+}
+
+TEST_F(SummaryJourney, HelpShowsTheHostsPage) {
+  clickButton(control(openSummary(), "cmdHelp"));
+  waitFor("help page", [] {
+    const HWND help = FindWindowW(L"PelorinHostHelp", nullptr);
+    const HWND page = FindWindowExW(help, nullptr, L"EDIT", nullptr);
+    return help != nullptr && page != nullptr && host::textOf(page).starts_with("Trigger actions");
+  });
+}
+
+TEST_F(SummaryJourney, CloseClosesItAndItCanBeOpenedAgain) {
+  const HWND summary = openSummary();
+  clickButton(control(summary, "cmdClose"));
+  host::waitUntilClosed(summary);
+  EXPECT_NE(openSummary(), nullptr);
+}
+
+}  // namespace
+}  // namespace pelorin::test
