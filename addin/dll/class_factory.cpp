@@ -5,6 +5,14 @@
 
 namespace pelorin {
 
+namespace {
+
+ComPtr<_TAManager> newManager() {
+  return ComPtr<_TAManager>::attach(new TAManagerObject);
+}
+
+}  // namespace
+
 STDMETHODIMP ClassFactory::QueryInterface(REFIID id, void** object) noexcept {
   if (object == nullptr) return E_POINTER;
   *object = nullptr;
@@ -28,10 +36,7 @@ STDMETHODIMP ClassFactory::CreateInstance(IUnknown* outer, REFIID id, void** obj
   if (object == nullptr) return E_POINTER;
   *object = nullptr;
   if (outer != nullptr) return CLASS_E_NOAGGREGATION;
-  return boundary([&] {
-    const auto manager = ComPtr<_TAManager>::attach(new TAManagerObject);
-    return manager->QueryInterface(id, object);
-  });
+  return boundary([&] { return newManager()->QueryInterface(id, object); });
 }
 
 STDMETHODIMP ClassFactory::LockServer(BOOL lock) noexcept {

@@ -12,8 +12,10 @@ class Handle {
   explicit Handle(HANDLE handle) noexcept : handle_(handle) {}
   Handle(const Handle&) = delete;
   Handle(Handle&& other) noexcept : handle_(std::exchange(other.handle_, INVALID_HANDLE_VALUE)) {}
-  Handle& operator=(Handle other) noexcept {
-    std::swap(handle_, other.handle_);
+  Handle& operator=(const Handle&) = delete;
+  Handle& operator=(Handle&& other) noexcept {
+    Handle taken(std::move(other));
+    std::swap(handle_, taken.handle_);
     return *this;
   }
   ~Handle() {

@@ -209,8 +209,8 @@ HRESULT TAManagerObject::assign(DISPID id, const DISPPARAMS& parameters) {
 }
 
 HRESULT TAManagerObject::call(DISPID id, const DISPPARAMS& parameters, UINT& argument) {
-  const auto method = std::find_if(methods.begin(), methods.end(),
-                                   [id](const Method& known) { return known.id == id; });
+  const auto* const method = std::find_if(methods.begin(), methods.end(),
+                                          [id](const Method& known) { return known.id == id; });
   if (method == methods.end()) return DISP_E_MEMBERNOTFOUND;
   CallArguments arguments;
   const HRESULT taken = arguments.take(parameters, method->types, argument);

@@ -8,7 +8,7 @@
 #include "Pelorin.h"
 #include "addin/dll/call_arguments.h"
 #include "addin/dll/com_object.h"
-#include "addin/ta_manager.h"
+#include "addin/ta_manager_members.h"
 
 namespace pelorin {
 
@@ -60,7 +60,7 @@ class TAManagerObject final : public _TAManager, public IProvideClassInfo {
   HRESULT readInDesign(const DISPPARAMS& parameters, VARIANT* result);
 
   ReferenceCount references_;
-  TAManager manager_;
+  TAManagerMembers manager_;
   HWND parent_ = nullptr;
   ComPtr<ITypeInfo> typeInfo_;
 };

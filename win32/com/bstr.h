@@ -27,8 +27,10 @@ class Bstr {
   explicit Bstr(std::string_view utf8) : Bstr(std::wstring_view(toWide(utf8))) {}
   Bstr(const Bstr&) = delete;
   Bstr(Bstr&& other) noexcept : text_(other.release()) {}
-  Bstr& operator=(Bstr other) noexcept {
-    std::swap(text_, other.text_);
+  Bstr& operator=(const Bstr&) = delete;
+  Bstr& operator=(Bstr&& other) noexcept {
+    Bstr taken(std::move(other));
+    std::swap(text_, taken.text_);
     return *this;
   }
   ~Bstr() { SysFreeString(text_); }

@@ -37,9 +37,10 @@ constexpr std::array<KnownError, 17> knownErrors{{
 }};
 
 const KnownError* known(HRESULT result) {
-  const auto found = std::find_if(knownErrors.begin(), knownErrors.end(),
-                                  [result](const KnownError& e) { return e.result == result; });
-  return found == knownErrors.end() ? nullptr : &*found;
+  const auto* const found =
+      std::find_if(knownErrors.begin(), knownErrors.end(),
+                   [result](const KnownError& e) { return e.result == result; });
+  return found == knownErrors.end() ? nullptr : found;
 }
 
 // Numbers of the control facility are the scripting host's own ones.

@@ -17,8 +17,14 @@ class ComPtr {
   }
   ComPtr(const ComPtr& other) noexcept : ComPtr(other.pointer_) {}
   ComPtr(ComPtr&& other) noexcept : pointer_(std::exchange(other.pointer_, nullptr)) {}
-  ComPtr& operator=(ComPtr other) noexcept {
-    std::swap(pointer_, other.pointer_);
+  ComPtr& operator=(const ComPtr& other) noexcept {
+    ComPtr copy(other);
+    std::swap(pointer_, copy.pointer_);
+    return *this;
+  }
+  ComPtr& operator=(ComPtr&& other) noexcept {
+    ComPtr taken(std::move(other));
+    std::swap(pointer_, taken.pointer_);
     return *this;
   }
   ~ComPtr() {

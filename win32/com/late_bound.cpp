@@ -34,9 +34,9 @@ std::vector<VARIANT> reversed(std::span<const Variant> arguments) {
   return {arguments.rbegin(), arguments.rend()};
 }
 
-// Takes the object by value: during the call everybody else may let go of it.
-void invoke(const ComPtr<IDispatch> object, DISPID id, std::span<const Variant> arguments,
-            Outcome& outcome) {
+// Holds the object itself: during the call everybody else may let go of it.
+void invoke(IDispatch* called, DISPID id, std::span<const Variant> arguments, Outcome& outcome) {
+  const ComPtr<IDispatch> object(called);
   std::vector<VARIANT> list = reversed(arguments);
   DISPPARAMS parameters{list.data(), nullptr, static_cast<UINT>(list.size()), 0};
   UINT argument = 0;
@@ -44,7 +44,8 @@ void invoke(const ComPtr<IDispatch> object, DISPID id, std::span<const Variant> 
                                   outcome.value.put(), outcome.exception.put(), &argument);
 }
 
-void assign(const ComPtr<IDispatch> object, DISPID id, WORD kind, const Variant& value) {
+void assign(IDispatch* called, DISPID id, WORD kind, const Variant& value) {
+  const ComPtr<IDispatch> object(called);
   VARIANT borrowed = value;
   DISPID newValue = DISPID_PROPERTYPUT;
   DISPPARAMS parameters{&borrowed, &newValue, 1, 1};
@@ -81,7 +82,7 @@ HRESULT LateBound::find(const wchar_t* member, DISPID& id) {
     id = cached->second;
     return S_OK;
   }
-  const ComPtr<IDispatch> object = object_;
+  const ComPtr<IDispatch> object(object_.get());
   std::wstring name(member);
   LPOLESTR text = name.data();
   HRESULT result = object->GetIDsOfNames(anyInterface, &text, 1, LOCALE_USER_DEFAULT, &id);
@@ -103,7 +104,7 @@ bool LateBound::knows(const wchar_t* member) {
 
 Variant LateBound::call(const wchar_t* member, std::initializer_list<Variant> arguments) {
   Outcome outcome;
-  invoke(object_, idOf(member), arguments, outcome);
+  invoke(object_.get(), idOf(member), arguments, outcome);
   outcome.throwIfFailed();
   return std::move(outcome.value);
 }
@@ -113,16 +114,16 @@ LateBound LateBound::object(const wchar_t* member, std::initializer_list<Variant
 }
 
 void LateBound::put(const wchar_t* member, const Variant& value) {
-  assign(object_, idOf(member), DISPATCH_PROPERTYPUT, value);
+  assign(object_.get(), idOf(member), DISPATCH_PROPERTYPUT, value);
 }
 
 void LateBound::putReference(const wchar_t* member, IDispatch* value) {
-  assign(object_, idOf(member), DISPATCH_PROPERTYPUTREF, Variant::object(value));
+  assign(object_.get(), idOf(member), DISPATCH_PROPERTYPUTREF, Variant::object(value));
 }
 
 LateBound LateBound::item(const Variant& key) {
   Outcome outcome;
-  invoke(object_, DISPID_VALUE, {&key, 1}, outcome);
+  invoke(object_.get(), DISPID_VALUE, {&key, 1}, outcome);
   if (meansNoDefault(outcome.result)) return object(L"Item", {key});
   outcome.throwIfFailed();
   return objectIn(outcome.value);

@@ -16,8 +16,10 @@ class SafeArray {
   explicit SafeArray(SAFEARRAY* array) noexcept : array_(array) {}
   SafeArray(const SafeArray&) = delete;
   SafeArray(SafeArray&& other) noexcept : array_(std::exchange(other.array_, nullptr)) {}
-  SafeArray& operator=(SafeArray other) noexcept {
-    std::swap(array_, other.array_);
+  SafeArray& operator=(const SafeArray&) = delete;
+  SafeArray& operator=(SafeArray&& other) noexcept {
+    SafeArray taken(std::move(other));
+    std::swap(array_, taken.array_);
     return *this;
   }
   ~SafeArray() {

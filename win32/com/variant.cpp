@@ -14,8 +14,15 @@ Variant::Variant(const Variant& other) : VARIANT{} {
 
 Variant::Variant(Variant&& other) noexcept : VARIANT(other.release()) {}
 
-Variant& Variant::operator=(Variant other) noexcept {
-  std::swap<VARIANT>(*this, other);
+Variant& Variant::operator=(const Variant& other) {
+  Variant copy(other);
+  std::swap<VARIANT>(*this, copy);
+  return *this;
+}
+
+Variant& Variant::operator=(Variant&& other) noexcept {
+  Variant taken(std::move(other));
+  std::swap<VARIANT>(*this, taken);
   return *this;
 }
 

@@ -18,7 +18,8 @@ class Variant : public VARIANT {
   // References are copied as references.
   Variant(const Variant& other);
   Variant(Variant&& other) noexcept;
-  Variant& operator=(Variant other) noexcept;
+  Variant& operator=(const Variant& other);
+  Variant& operator=(Variant&& other) noexcept;
   ~Variant();
 
   static Variant int16(std::int16_t number) noexcept;

@@ -13,9 +13,9 @@
 
 namespace pelorin {
 
-class TAManager {
+class TAManagerMembers {
  public:
-  explicit TAManager(Component& component) : component_(component) {}
+  explicit TAManagerMembers(Component& component) : component_(component) {}
 
   // Always false: see the counter below.
   bool InDesign() noexcept;

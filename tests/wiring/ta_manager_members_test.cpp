@@ -1,5 +1,5 @@
 // The members of the add-in class as far as they do not need Windows.
-#include "addin/ta_manager.h"
+#include "addin/ta_manager_members.h"
 
 #include "tests/wiring/component_fixture.h"
 
@@ -11,7 +11,7 @@ using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
 struct TAManagerTest : ComponentTest {
-  TAManager manager{component};
+  TAManagerMembers manager{component};
 };
 
 TEST_F(TAManagerTest, inDesignIsFalseOnTheFirstAndEveryLaterCall) {
@@ -19,9 +19,9 @@ TEST_F(TAManagerTest, inDesignIsFalseOnTheFirstAndEveryLaterCall) {
 }
 
 TEST_F(TAManagerTest, plainMembersShowTheHourglassAndThenTheDefaultPointer) {
-  using Member = void (TAManager::*)() noexcept;
-  for (const Member member :
-       {&TAManager::Activate, &TAManager::Destroy, &TAManager::Install, &TAManager::UnInstall}) {
+  using Member = void (TAManagerMembers::*)() noexcept;
+  for (const Member member : {&TAManagerMembers::Activate, &TAManagerMembers::Destroy,
+                              &TAManagerMembers::Install, &TAManagerMembers::UnInstall}) {
     screen.pointers.clear();
     (manager.*member)();
     EXPECT_THAT(screen.pointers, ElementsAre(MousePointer::Hourglass, MousePointer::Default));

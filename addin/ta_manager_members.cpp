@@ -1,4 +1,4 @@
-#include "addin/ta_manager.h"
+#include "addin/ta_manager_members.h"
 
 #include "addin/default_pointer.h"
 
@@ -12,38 +12,38 @@ constexpr const char* addInObject = "MorvatPelorin";
 
 // A design environment would assert its way through the counting twice; a built component counts
 // once and starts over at each call, so that it never gets to 2.
-bool TAManager::InDesign() noexcept {
+bool TAManagerMembers::InDesign() noexcept {
   ++designCounter_;
   if (designCounter_ == 2) inDesign_ = true;
   designCounter_ = 0;
   return inDesign_;
 }
 
-void TAManager::Activate() noexcept {
+void TAManagerMembers::Activate() noexcept {
   hourglassAndBack("Activate");
 }
 
-void TAManager::Destroy() noexcept {
+void TAManagerMembers::Destroy() noexcept {
   hourglassAndBack("Destroy");
 }
 
-void TAManager::Install() noexcept {
+void TAManagerMembers::Install() noexcept {
   hourglassAndBack("Install");
 }
 
-void TAManager::UnInstall() noexcept {
+void TAManagerMembers::UnInstall() noexcept {
   hourglassAndBack("UnInstall");
 }
 
-void TAManager::RaiseForm(WindowHandle owner) noexcept {
+void TAManagerMembers::RaiseForm(WindowHandle owner) noexcept {
   member("RaiseForm", [&] { component_.RaiseForm(owner); });
 }
 
-void TAManager::OnStream() noexcept {
+void TAManagerMembers::OnStream() noexcept {
   member("OnStream", [&] { component_.module().screen().setMousePointer(MousePointer::Default); });
 }
 
-std::int32_t TAManager::GetAddInID(const std::string& addInObjectName) noexcept {
+std::int32_t TAManagerMembers::GetAddInID(const std::string& addInObjectName) noexcept {
   Module1& module = component_.module();
   return guardedOr(module, "TAManager.GetAddInID", std::int32_t{0}, [&] {
     RecordSet addIns = module.DBConnection()->open(
@@ -53,7 +53,7 @@ std::int32_t TAManager::GetAddInID(const std::string& addInObjectName) noexcept 
   });
 }
 
-void TAManager::showException(std::string_view name, const RunTimeError& error) noexcept {
+void TAManagerMembers::showException(std::string_view name, const RunTimeError& error) noexcept {
   try {
     component_.module().screen().messageBox(
         BoxRequest{std::string("Exception in class ") + addInObject + "." + std::string(name) +
@@ -65,7 +65,7 @@ void TAManager::showException(std::string_view name, const RunTimeError& error) 
   }
 }
 
-void TAManager::hourglassAndBack(std::string_view name) noexcept {
+void TAManagerMembers::hourglassAndBack(std::string_view name) noexcept {
   member(name, [this] {
     Screen& screen = component_.module().screen();
     const DefaultPointerAtEnd pointer(screen);
