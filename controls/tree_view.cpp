@@ -15,17 +15,26 @@ TreeNode* TreeView::find(std::string_view key) const {
 }
 
 TreeNode& TreeView::add(TreeNode* parent, NodeTexts texts) {
+  TreeNode* added = tryAdd(parent, texts);
+  if (added == nullptr) {
+    throw RunTimeError(error_number::keyNotUnique, "Key is not unique in collection");
+  }
+  return *added;
+}
+
+TreeNode* TreeView::tryAdd(TreeNode* parent, NodeTexts& texts) {
   auto node = std::make_unique<TreeNode>();
   node->key = std::move(texts.key);
   if (!keys_.insert(*node)) {
-    throw RunTimeError(error_number::keyNotUnique, "Key is not unique in collection");
+    texts.key = std::move(node->key);
+    return nullptr;
   }
   node->text = std::move(texts.text);
   node->tag = std::move(texts.tag);
   node->image = texts.image;
   node->selectedImage = texts.selectedImage;
   node->parent_ = parent;
-  TreeNode& added = *node;
+  TreeNode* added = node.get();
   (parent == nullptr ? roots_ : parent->children_).push_back(std::move(node));
   notify(Aspect::Items);
   return added;

@@ -11,7 +11,9 @@ RecordSet LocationNodes::rows(const std::string& sql, SourceLine where) const {
 
 TreeNode& LocationNodes::add(TreeNode* parent, NodeTexts texts) {
   stopWhenClosed();
-  if (tree_.find(texts.key) != nullptr) texts.key = freeKey(texts.key);
+  TreeNode* added = tree_.tryAdd(parent, texts);
+  if (added != nullptr) return *added;
+  texts.key = freeKey(texts.key);
   return tree_.add(parent, std::move(texts));
 }
 
