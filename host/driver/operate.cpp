@@ -71,7 +71,7 @@ void doubleClickAt(HWND window, POINT point) {
 
 void pressKey(HWND window, WORD key) {
   const LPARAM scan = static_cast<LPARAM>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)) << 16;
-  constexpr LPARAM released = 0xC0000000;
+  constexpr auto released = static_cast<LPARAM>(0xC0000000);
   PostMessageW(window, WM_KEYDOWN, key, scan | 1);
   PostMessageW(window, WM_KEYUP, key, scan | 1 | released);
   settle(window);
