@@ -49,6 +49,8 @@ stop_display() {
 
 # Points Wine at the prefix of one kind: x64, x86 (both without a window manager) or desktop (with one).
 wine_environment() {
+  # Texts pass between Windows and Unix in this encoding, those of ODBC drivers too.
+  export LC_ALL=C.UTF-8
   export WINEPREFIX="$ROOT/build/wine-$1" WINEARCH=win64 WINEDEBUG="${WINEDEBUG:--all}"
   # Without these a crash waits for a debugger and a new prefix for a download.
   export WINEDLLOVERRIDES='winedbg.exe=d;mscoree=d;mshtml=d'
