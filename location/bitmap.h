@@ -21,6 +21,6 @@ struct Bitmap {
 // Reads an uncompressed bitmap file of 1, 4, 8, 24 or 32 bits, in either direction. Where a 32-bit
 // file uses its fourth byte it is alpha, everything else is opaque. Error 481 for anything else and
 // for a file that is damaged or cut short.
-Bitmap readBitmap(std::string_view file);
+Bitmap readBitmap(std::string_view content);
 
 }  // namespace pelorin

@@ -67,14 +67,14 @@ CaptionFile::ConstLine CaptionFile::find(std::int16_t form, std::string_view nam
 }
 
 std::optional<std::string> CaptionFile::value(std::int16_t form, std::string_view name) const {
-  const ConstLine line = find(form, name);
+  const auto line = find(form, name);
   if (line == lines_.end()) return std::nullopt;
   return line->substr(line->find('=') + 1);
 }
 
 void CaptionFile::setValue(std::int16_t form, std::string_view name, std::string_view value) {
   std::string line = std::string(name) + '=' + oneLine(value);
-  const ConstLine old = find(form, name);
+  const auto old = find(form, name);
   if (old != lines_.end()) {
     lines_[static_cast<std::size_t>(old - lines_.begin())] = std::move(line);
     return;
@@ -89,7 +89,7 @@ void CaptionFile::setValue(std::int16_t form, std::string_view name, std::string
 }
 
 void CaptionFile::remove(std::int16_t form, std::string_view name) {
-  const ConstLine line = find(form, name);
+  const auto line = find(form, name);
   if (line != lines_.end()) lines_.erase(line);
 }
 

@@ -28,7 +28,6 @@ class CaptionFile {
   std::string text() const;
 
  private:
-  using Line = std::vector<std::string>::iterator;
   using ConstLine = std::vector<std::string>::const_iterator;
 
   // The lines below the form's heading; both ends are lines_.end() when there is no heading.

@@ -32,7 +32,7 @@ class HardwareTree {
   };
 
   void addServer(TreeNode& root, const RecordSet& row);
-  TreeNode& addConfiguration(TreeNode& root, const RecordSet& row, const std::string& name);
+  TreeNode& addConfiguration(TreeNode& root, const RecordSet& row, const std::string& id);
   ServerFolders addServerFolders(TreeNode& configuration, const std::string& id,
                                  const std::string& name);
   void addPorts(const ServerFolders& folders, const std::string& serverId);
