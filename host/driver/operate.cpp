@@ -42,6 +42,7 @@ std::vector<std::string> rowTexts(HWND list, UINT countMessage, UINT lengthMessa
                                   UINT textMessage) {
   std::vector<std::string> rows;
   const auto count = static_cast<int>(SendMessageW(list, countMessage, 0, 0));
+  rows.reserve(static_cast<std::size_t>(std::max(count, 0)));
   for (int row = 0; row < count; ++row) {
     rows.push_back(rowText(list, lengthMessage, textMessage, row));
   }

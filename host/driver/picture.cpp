@@ -1,12 +1,5 @@
 #include "host/driver/picture.h"
 
-#include <algorithm>
-
-// The header of the drawing library relies on these names.
-namespace Gdiplus {
-using std::max;
-using std::min;
-}  // namespace Gdiplus
 #include <gdiplus.h>
 
 #include <cstdint>
@@ -50,19 +43,23 @@ class Drawing {
   ULONG_PTR token_ = 0;
 };
 
+HBITMAP makeBitmap(HDC memory, int width, int height, void*& dots) {
+  BITMAPINFO description{};
+  description.bmiHeader.biSize = sizeof description.bmiHeader;
+  description.bmiHeader.biWidth = width;
+  description.bmiHeader.biHeight = -height;
+  description.bmiHeader.biPlanes = 1;
+  description.bmiHeader.biBitCount = 32;
+  return CreateDIBSection(memory, &description, DIB_RGB_COLORS, &dots, nullptr, 0);
+}
+
 class ScreenCopy {
  public:
   ScreenCopy(int width, int height)
-      : screen_(GetDC(nullptr)), memory_(CreateCompatibleDC(screen_)) {
-    BITMAPINFO description{};
-    description.bmiHeader.biSize = sizeof description.bmiHeader;
-    description.bmiHeader.biWidth = width;
-    description.bmiHeader.biHeight = -height;
-    description.bmiHeader.biPlanes = 1;
-    description.bmiHeader.biBitCount = 32;
-    bitmap_ = CreateDIBSection(memory_, &description, DIB_RGB_COLORS, &dots_, nullptr, 0);
-    previous_ = SelectObject(memory_, bitmap_);
-  }
+      : screen_(GetDC(nullptr)),
+        memory_(CreateCompatibleDC(screen_)),
+        bitmap_(makeBitmap(memory_, width, height, dots_)),
+        previous_(SelectObject(memory_, bitmap_)) {}
   ScreenCopy(const ScreenCopy&) = delete;
   ScreenCopy& operator=(const ScreenCopy&) = delete;
   ~ScreenCopy() {
@@ -85,11 +82,11 @@ class ScreenCopy {
   }
 
  private:
+  void* dots_ = nullptr;
   HDC screen_;
   HDC memory_;
-  HBITMAP bitmap_ = nullptr;
-  HGDIOBJ previous_ = nullptr;
-  void* dots_ = nullptr;
+  HBITMAP bitmap_;
+  HGDIOBJ previous_;
 };
 
 Pixels pixelsOf(HWND window) {

@@ -35,7 +35,7 @@ bool isExpanded(HWND tree, HTREEITEM node) {
 RECT textPlace(HWND tree, HTREEITEM node) {
   SendMessageW(tree, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(node));
   RECT place{};
-  std::memcpy(&place, &node, sizeof node);  // the message takes the node where the place goes
+  std::memcpy(&place, &node, sizeof(HTREEITEM));  // the message takes the node where the place goes
   SendMessageW(tree, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place));
   return place;
 }

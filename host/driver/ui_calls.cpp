@@ -64,8 +64,9 @@ void UiCalls::send(const std::function<void()>& work) const {
 
 void UiCalls::post(std::function<void()> work) const {
   auto owned = std::make_unique<std::function<void()>>(std::move(work));
-  const auto address = reinterpret_cast<LPARAM>(owned.get());
-  if (PostMessageW(window_, postMessage, 0, address) != 0) static_cast<void>(owned.release());
+  // The window's procedure takes over what could be posted.
+  std::function<void()>* const address = owned.release();
+  if (PostMessageW(window_, postMessage, 0, reinterpret_cast<LPARAM>(address)) == 0) delete address;
 }
 
 }  // namespace pelorin::host

@@ -17,6 +17,8 @@ class OdbcConnection : public ResultConnection {
  public:
   // DatabaseError when the data source cannot be reached.
   explicit OdbcConnection(const std::string& connectionString);
+  OdbcConnection(const OdbcConnection&) = delete;
+  OdbcConnection& operator=(const OdbcConnection&) = delete;
   ~OdbcConnection() override;
 
   std::unique_ptr<ResultCursor> openResults(std::string_view sql) override;

@@ -12,7 +12,7 @@ namespace pelorin::host {
 namespace {
 
 std::wstring madeFolder(const std::string& folder) {
-  const std::wstring path = fullPath(toWide(folder));
+  std::wstring path = fullPath(toWide(folder));
   const int result = SHCreateDirectoryExW(nullptr, path.c_str(), nullptr);
   if (result != ERROR_SUCCESS && result != ERROR_ALREADY_EXISTS && result != ERROR_FILE_EXISTS) {
     throw DriverError("cannot make the folder " + toUtf8(path));

@@ -37,7 +37,7 @@ HWND openSummary(Stage& stage) {
 HWND openEditor(Stage& stage, HWND summary) {
   clickButton(control(summary, "cmdAddEdit(0)"));
   const HWND editor = waitForForm("frmTriggerAction");
-  stage.step("\"Add...\" pressed: the editor opens, titled \"" + textOf(editor) + "\"");
+  stage.step(R"("Add..." pressed: the editor opens, titled ")" + textOf(editor) + "\"");
   return editor;
 }
 

@@ -15,7 +15,9 @@ class Component {
   // both when it is not empty. RunTimeError when there is none.
   static Component load(const std::string& file);
 
+  Component(const Component&) = delete;
   Component(Component&&) = default;
+  Component& operator=(const Component&) = delete;
   Component& operator=(Component&&) = delete;
   // Tells the component that it is let go of.
   ~Component();

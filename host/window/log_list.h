@@ -12,8 +12,8 @@ namespace pelorin::host {
 class LogList {
  public:
   struct Column {
-    const wchar_t* title;
-    int width;  // at 96 dots per inch
+    const wchar_t* title = nullptr;
+    int width = 0;  // at 96 dots per inch
     int format = LVCFMT_LEFT;
   };
   using CellText = std::function<std::string(std::size_t row, int column)>;

@@ -19,6 +19,8 @@ class MainWindow : public Window {
 
   // RunTimeError with a sentence for the user when the database cannot be used.
   explicit MainWindow(const Options& options);
+  MainWindow(const MainWindow&) = delete;
+  MainWindow& operator=(const MainWindow&) = delete;
   ~MainWindow() override;
 
   HostSession& session() noexcept { return *session_; }
