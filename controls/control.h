@@ -46,7 +46,7 @@ enum class Aspect {
 };
 
 struct Change {
-  Aspect aspect;
+  Aspect aspect = Aspect::Text;
   int index = -1;
 };
 

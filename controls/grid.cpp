@@ -24,13 +24,9 @@ void Grid::checkColumn(int column) const {
   if (column < 0 || column >= columns()) invalidProperty();
 }
 
-const std::vector<std::string>& Grid::rowCells(int row) const {
+std::size_t Grid::slot(int row) const {
   if (row < 0 || row >= rows()) invalidProperty();
-  return cells_[static_cast<std::size_t>(row)];
-}
-
-std::vector<std::string>& Grid::rowCells(int row) {
-  return const_cast<std::vector<std::string>&>(std::as_const(*this).rowCells(row));
+  return static_cast<std::size_t>(row);
 }
 
 int Grid::columnWidth(int column) const {
@@ -60,12 +56,12 @@ void Grid::setFixedRows(int fixed) {
 
 const std::string& Grid::cell(int row, int column) const {
   checkColumn(column);
-  return rowCells(row)[static_cast<std::size_t>(column)];
+  return cells_[slot(row)][static_cast<std::size_t>(column)];
 }
 
 void Grid::setCell(int row, int column, const std::string& text) {
   checkColumn(column);
-  rowCells(row)[static_cast<std::size_t>(column)] = text;
+  cells_[slot(row)][static_cast<std::size_t>(column)] = text;
   notify(row < fixedRows_ ? Aspect::Columns : Aspect::Item, row);
 }
 
@@ -82,7 +78,7 @@ void Grid::addItem(std::string_view tabbedText) {
 }
 
 void Grid::removeItem(int row) {
-  rowCells(row);
+  slot(row);
   if (fixedRows_ > 0 && rows() - fixedRows_ <= 1) {
     throw RunTimeError(error_number::lastNonFixedRow, "Cannot remove last non-fixed row");
   }

@@ -25,7 +25,7 @@ class Grid : public Control {
   void setRows(int rows);
   int fixedRows() const noexcept { return fixedRows_; }
   // Error 380 unless less than rows().
-  void setFixedRows(int rows);
+  void setFixedRows(int fixed);
 
   const std::string& cell(int row, int column) const;
   void setCell(int row, int column, const std::string& text);
@@ -52,8 +52,7 @@ class Grid : public Control {
   void userScroll(int topRow) { topRow_ = topRow; }
 
  private:
-  std::vector<std::string>& rowCells(int row);
-  const std::vector<std::string>& rowCells(int row) const;
+  std::size_t slot(int row) const;
   void checkColumn(int column) const;
 
   std::vector<int> widths_;

@@ -59,7 +59,8 @@ class ComboPeer final : public Peer {
   void showRows() const {
     const RedrawHeld held(hwnd());
     send(CB_RESETCONTENT);
-    send(CB_INITSTORAGE, static_cast<WPARAM>(combo_.listCount()), combo_.listCount() * 64);
+    constexpr LPARAM bytesPerRow = 64;
+    send(CB_INITSTORAGE, static_cast<WPARAM>(combo_.listCount()), combo_.listCount() * bytesPerRow);
     for (int i = 0; i < combo_.listCount(); ++i) {
       sendText(CB_ADDSTRING, 0, toWide(combo_.row(i).text).c_str());
     }
@@ -77,8 +78,8 @@ class ComboPeer final : public Peer {
       const std::wstring text = toWide(combo_.row(i).text);
       widest = std::max(widest, window().fonts().textWidth(text, combo_.bold(), false));
     }
-    const int frame = GetSystemMetrics(SM_CXVSCROLL) + window().pixels(150);
-    send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest + frame));
+    widest += GetSystemMetrics(SM_CXVSCROLL) + window().pixels(150);
+    send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest));
   }
 
   ComboBox& combo_;

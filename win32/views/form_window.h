@@ -22,6 +22,8 @@ class FormWindow final : public NativeWindow, public FormView {
  public:
   // Makes the hidden window without controls.
   FormWindow(UiThread& ui, Form& form, HWND owner);
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
   ~FormWindow() override;
 
   // Null once the form is unloaded.

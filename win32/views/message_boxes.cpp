@@ -1,5 +1,7 @@
 #include "win32/views/message_boxes.h"
 
+#include <ranges>
+
 #include "win32/text/utf16.h"
 
 namespace pelorin {
@@ -33,8 +35,8 @@ class InputHeld {
   InputHeld(const InputHeld&) = delete;
   InputHeld& operator=(const InputHeld&) = delete;
   ~InputHeld() {
-    for (auto window = held_.rbegin(); window != held_.rend(); ++window) {
-      if (IsWindow(*window)) EnableWindow(*window, TRUE);
+    for (HWND window : std::views::reverse(held_)) {
+      if (IsWindow(window)) EnableWindow(window, TRUE);
     }
   }
 

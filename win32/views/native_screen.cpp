@@ -91,7 +91,10 @@ void NativeScreen::destroyWindow(Form& form) {
 }
 
 void NativeScreen::flush() {
-  for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->flush();
+  // Counted, because a window can be added or go while one is brought up to date.
+  for (std::size_t i = windows_.size(); i-- > 0;) {
+    if (i < windows_.size()) windows_[i]->flush();
+  }
 }
 
 void NativeScreen::idle() {

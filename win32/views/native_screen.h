@@ -20,6 +20,8 @@ namespace pelorin {
 class NativeScreen final : public Screen {
  public:
   explicit NativeScreen(HINSTANCE module);
+  NativeScreen(const NativeScreen&) = delete;
+  NativeScreen& operator=(const NativeScreen&) = delete;
   // Unloads what is still open.
   ~NativeScreen() override;
 

@@ -57,8 +57,8 @@ class Peer : public NativeWindow, public ControlView {
 
  protected:
   struct NativeKind {
-    const wchar_t* windowClass;
-    DWORD style;
+    const wchar_t* windowClass = nullptr;
+    DWORD style = 0;
     DWORD extendedStyle = 0;
   };
   virtual NativeKind nativeKind() const = 0;

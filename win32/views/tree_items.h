@@ -18,11 +18,11 @@ class TreeItems {
   // Makes the native items agree with the model again, as far as they have been made.
   void follow();
   // Makes the children of an item that is about to be expanded.
-  void makeChildren(HTREEITEM item);
+  void makeChildren(HTREEITEM handle);
   // Makes whatever is missing up to the node and gives its item.
   HTREEITEM reach(const TreeNode& node);
   // Null when the node is no longer in the model.
-  TreeNode* nodeOf(HTREEITEM item) const;
+  TreeNode* nodeOf(HTREEITEM handle) const;
 
  private:
   // A node is known by its key, because its address may belong to another one by now.

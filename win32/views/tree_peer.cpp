@@ -81,7 +81,7 @@ class TreePeer final : public Peer {
     TVHITTESTINFO hit{};
     hit.pt = {static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))};
     ScreenToClient(hwnd(), &hit.pt);
-    const HTREEITEM item = TreeView_HitTest(hwnd(), &hit);
+    auto* const item = TreeView_HitTest(hwnd(), &hit);
     return (hit.flags & TVHT_ONITEM) != 0 ? item : nullptr;
   }
 

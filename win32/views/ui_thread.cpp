@@ -15,6 +15,8 @@ class UiThread::Sink : public NativeWindow {
     attach(CreateWindowExW(0, L"Static", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, ui.module(),
                            nullptr));
   }
+  Sink(const Sink&) = delete;
+  Sink& operator=(const Sink&) = delete;
   ~Sink() override { destroy(); }
 
  protected:
