@@ -1,8 +1,8 @@
 # dist/x64 and dist/x86: what a user of the component gets. A room says what it ships with
 #   install(TARGETS pelorin_dll RUNTIME DESTINATION .)
 #   install(DIRECTORY Graphics DESTINATION .)
-# and the target "dist" builds the shipped programs and puts everything in place. What else lies there (a site database, a
-# log) is the user's and stays.
+# and the target "dist" builds the shipped programs and puts everything in place. What else lies there
+# (a site database, a log) is the user's and stays.
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
   set(PELORIN_DIST_DIR ${PROJECT_SOURCE_DIR}/dist/x64)

@@ -1,8 +1,9 @@
 #include "controls/control.h"
 
+#include <gtest/gtest.h>
+
 #include "controls/simple_controls.h"
 #include "controls/tab_control.h"
-#include "gtest/gtest.h"
 #include "tests/controls/error_number_of.h"
 #include "tests/controls/listening_view.h"
 

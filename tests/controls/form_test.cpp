@@ -1,6 +1,7 @@
 #include "controls/form.h"
 
-#include "gtest/gtest.h"
+#include <gtest/gtest.h>
+
 #include "tests/fakes/recording_screen.h"
 
 namespace pelorin::test {

@@ -1,6 +1,7 @@
 #include "controls/grid.h"
 
-#include "gtest/gtest.h"
+#include <gtest/gtest.h>
+
 #include "tests/controls/error_number_of.h"
 #include "tests/controls/listening_view.h"
 

@@ -1,8 +1,9 @@
 #include "controls/screen.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 
-#include "gtest/gtest.h"
 #include "tests/fakes/recording_screen.h"
 
 namespace pelorin::test {

@@ -1,6 +1,7 @@
 #include "controls/simple_controls.h"
 
-#include "gtest/gtest.h"
+#include <gtest/gtest.h>
+
 #include "tests/controls/listening_view.h"
 
 namespace pelorin::test {

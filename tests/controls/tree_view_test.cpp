@@ -1,6 +1,7 @@
 #include "controls/tree_view.h"
 
-#include "gtest/gtest.h"
+#include <gtest/gtest.h>
+
 #include "tests/controls/error_number_of.h"
 #include "tests/controls/listening_view.h"
 

@@ -1,11 +1,12 @@
 // A host with a message loop, a window of its own and the native screen, for tests on real windows.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "gtest/gtest.h"
 #include "win32/views/native_screen.h"
 
 namespace pelorin::test {
