@@ -96,6 +96,6 @@ int run(int show) noexcept {
 
 }  // namespace pelorin::host
 
-int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int show) {
-  return pelorin::host::run(show);
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int nShowCmd) {
+  return pelorin::host::run(nShowCmd);
 }

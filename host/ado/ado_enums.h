@@ -58,6 +58,6 @@ inline constexpr std::int32_t invalidConnection = 3709;
 }  // namespace error
 
 // Throws the error with ADO's own words.
-[[noreturn]] void fail(std::int32_t error);
+[[noreturn]] void fail(std::int32_t number);
 
 }  // namespace pelorin::host::ado

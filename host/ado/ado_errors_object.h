@@ -17,9 +17,9 @@ class AdoErrorObject : public AutomationObject<AdoErrorObject> {
   static const Member members[5];
 
  private:
-  Variant description(const MemberCall&) { return Variant::text(message_.text); }
-  Variant number(const MemberCall&) { return Variant::int32(message_.nativeNumber); }
-  Variant sqlState(const MemberCall&) { return Variant::text(message_.sqlState); }
+  Variant description(const MemberCall&) const { return Variant::text(message_.text); }
+  Variant number(const MemberCall&) const { return Variant::int32(message_.nativeNumber); }
+  Variant sqlState(const MemberCall&) const { return Variant::text(message_.sqlState); }
   Variant source(const MemberCall&) { return Variant::text("PelorinHost"); }
 
   ServerMessage message_;

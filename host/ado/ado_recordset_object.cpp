@@ -123,11 +123,11 @@ Variant AdoRecordsetObject::stateMember(const MemberCall&) {
   return Variant::int32(hasRows() ? ado::state::open : ado::state::closed);
 }
 
-Variant AdoRecordsetObject::atEnd(const MemberCall&) {
+Variant AdoRecordsetObject::atEnd(const MemberCall&) const {
   return boolean(rows().atEnd());
 }
 
-Variant AdoRecordsetObject::atBegin(const MemberCall&) {
+Variant AdoRecordsetObject::atBegin(const MemberCall&) const {
   return boolean(rows().atEnd() && !moved_);
 }
 
@@ -138,7 +138,7 @@ Variant AdoRecordsetObject::moveNext(const MemberCall&) {
 }
 
 // What has been read is gone: only a record set that stands at its start can go there.
-Variant AdoRecordsetObject::moveFirst(const MemberCall&) {
+Variant AdoRecordsetObject::moveFirst(const MemberCall&) const {
   if (rows().atEnd() && !moved_) ado::fail(ado::error::noCurrentRecord);
   if (moved_) ado::fail(ado::error::notSupported);
   return {};
@@ -180,7 +180,7 @@ Variant AdoRecordsetObject::source(const MemberCall& call) {
 }
 
 // Unknown for a forward-only record set.
-Variant AdoRecordsetObject::recordCount(const MemberCall&) {
+Variant AdoRecordsetObject::recordCount(const MemberCall&) const {
   static_cast<void>(rows());
   return Variant::int32(-1);
 }

@@ -28,15 +28,15 @@ class AdoRecordsetObject : public AutomationObject<AdoRecordsetObject> {
   Variant open(const MemberCall& call);
   Variant close(const MemberCall& call);
   Variant stateMember(const MemberCall& call);
-  Variant atEnd(const MemberCall& call);
-  Variant atBegin(const MemberCall& call);
+  Variant atEnd(const MemberCall& call) const;
+  Variant atBegin(const MemberCall& call) const;
   Variant moveNext(const MemberCall& call);
-  Variant moveFirst(const MemberCall& call);
+  Variant moveFirst(const MemberCall& call) const;
   Variant getRows(const MemberCall& call);
   Variant nextRecordset(const MemberCall& call);
   Variant activeConnection(const MemberCall& call);
   Variant source(const MemberCall& call);
-  Variant recordCount(const MemberCall& call);
+  Variant recordCount(const MemberCall& call) const;
   Variant supports(const MemberCall& call);
   Variant collect(const MemberCall& call);
   template <std::int32_t AdoRecordsetObject::*field>

@@ -29,9 +29,22 @@ bool sameMember(const wchar_t* left, const wchar_t* right) noexcept;
 template <class Self>
 class AutomationObject : public IDispatch {
  public:
-  struct Member {
+  class Member {
+   public:
+    constexpr Member(const wchar_t* memberName, Variant (Self::*handler)(const MemberCall&))
+        : name(memberName), handler_(handler) {}
+    constexpr Member(const wchar_t* memberName, Variant (Self::*reader)(const MemberCall&) const)
+        : name(memberName), reader_(reader) {}
+
+    Variant call(Self& self, const MemberCall& call) const {
+      return reader_ != nullptr ? (self.*reader_)(call) : (self.*handler_)(call);
+    }
+
     const wchar_t* name;
-    Variant (Self::*handler)(const MemberCall& call);
+
+   private:
+    Variant (Self::*handler_)(const MemberCall&) = nullptr;
+    Variant (Self::*reader_)(const MemberCall&) const = nullptr;
   };
 
   AutomationObject() = default;
@@ -85,7 +98,7 @@ class AutomationObject : public IDispatch {
     const ComPtr<IDispatch> alive(this);
     try {
       const MemberCall call(flags, *parameters);
-      Variant answer = (static_cast<Self*>(this)->*Self::members[id].handler)(call);
+      Variant answer = Self::members[id].call(*static_cast<Self*>(this), call);
       if (result != nullptr) *result = std::exchange(static_cast<VARIANT&>(answer), VARIANT{});
       return S_OK;
     } catch (...) {

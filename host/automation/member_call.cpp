@@ -14,6 +14,8 @@ template <class... Cases>
 struct Overloaded : Cases... {
   using Cases::operator()...;
 };
+template <class... Cases>
+Overloaded(Cases...) -> Overloaded<Cases...>;
 
 Variant wholeNumber(std::int64_t number) {
   if (number >= std::numeric_limits<std::int32_t>::min() &&

@@ -19,7 +19,7 @@ class PermissionObject : public AutomationObject<PermissionObject> {
   static const Member members[1];
 
  private:
-  Variant canView(const MemberCall&) { return boolean(canView_); }
+  Variant canView(const MemberCall&) const { return boolean(canView_); }
 
   bool canView_;
 };

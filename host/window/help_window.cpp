@@ -39,8 +39,13 @@ std::string helpPage(std::int16_t topic) {
   return {text, SizeofResource(nullptr, found)};
 }
 
-HelpWindow::HelpWindow(HWND owner) : topics_(nullptr), page_(nullptr) {
+HelpWindow::HelpWindow(HWND owner) {
   create({L"PelorinHostHelp", L"Pelorin Help", WS_OVERLAPPEDWINDOW, {760, 520}}, owner, nullptr);
+  makeControls();
+  layOut();
+}
+
+void HelpWindow::makeControls() {
   topics_ = makeControl(handle(), L"LISTBOX", L"",
                         WS_TABSTOP | WS_BORDER | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT, topicsCommand);
   page_ = makeControl(handle(), L"EDIT", L"",
@@ -51,11 +56,10 @@ HelpWindow::HelpWindow(HWND owner) : topics_(nullptr), page_(nullptr) {
     const std::wstring title = toWide(titleOf(helpPage(topic)));
     SendMessageW(topics_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(title.c_str()));
   }
-  layOut();
 }
 
 void HelpWindow::show(std::int16_t topic) {
-  WPARAM selected = static_cast<WPARAM>(-1);
+  auto selected = static_cast<WPARAM>(-1);
   for (std::size_t i = 0; i < std::size(topics); ++i) {
     if (topics[i] == topic) selected = i;
   }

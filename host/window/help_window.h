@@ -19,11 +19,12 @@ class HelpWindow : public Window {
   LRESULT message(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  void makeControls();
   void layOut() const;
   void showPage(std::int16_t topic) const;
 
-  HWND topics_;
-  HWND page_;
+  HWND topics_ = nullptr;
+  HWND page_ = nullptr;
 };
 
 // The text of a help page in UTF-8, its first line the title; empty when there is none.
