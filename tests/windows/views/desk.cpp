@@ -72,25 +72,6 @@ int gdiObjects() {
   return counted != 0 ? static_cast<int>(counted) : gdiObjectsInTable();
 }
 
-namespace {
-
-// Wine's emulation of 32-bit Windows gives programs no device contexts: combo boxes cannot be made
-// there, and edit boxes with text end the program.
-class DeviceContextsNeeded : public ::testing::Environment {
- public:
-  void SetUp() override {
-    const HDC screen = GetDC(nullptr);
-    const HGDIOBJ before = SelectObject(screen, GetStockObject(DEFAULT_GUI_FONT));
-    ReleaseDC(nullptr, screen);
-    if (before == nullptr) GTEST_SKIP() << "this system gives the program no device contexts";
-  }
-};
-
-const ::testing::Environment* const needed =
-    ::testing::AddGlobalTestEnvironment(new DeviceContextsNeeded);
-
-}  // namespace
-
 std::string nameOf(HWND window) {
   const UINT message = RegisterWindowMessageW(L"WM_GETCONTROLNAME");
   std::array<wchar_t, 100> buffer{};
