@@ -76,7 +76,7 @@ std::string usageText() {
          "  --component <file>      load this Pelorin.dll, registered or not\n"
          "  --play                  play one request by itself, then end\n"
          "  --out <folder>          where --play leaves its pictures (out)\n"
-         "  --pictures <folder>     make pictures of the three windows, then end\n"
+         "  --pictures <folder>     make pictures of every window, then end\n"
          "  --help                  show this text\n";
 }
 

@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "host/play/outcome.h"
+#include "host/play/picture_tour.h"
 #include "host/play/typical_request.h"
 #include "host/window/main_window.h"
 #include "host/window/message_loop.h"
@@ -52,7 +53,9 @@ int playOn(const UiCalls& ui, MainWindow& window, const Options& options) noexce
     const std::string suffix = documents ? "-" + std::to_string(scaled(96)) : std::string();
     Stage stage(ui, window.session(), window.handle(),
                 documents ? options.picturesFolder : options.outputFolder, suffix, printLine);
-    return playAndCheck(stage, options.database) ? 0 : 1;
+    const bool allWell = playAndCheck(stage, options.database);
+    if (documents) makePictureTour(stage);
+    return allWell ? 0 : 1;
   } catch (const std::exception& error) {
     printError(std::string("FAILED: ") + error.what());
     return 1;
