@@ -11,6 +11,7 @@ import json
 import os
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
 
@@ -34,7 +35,7 @@ class Unit:
         self.preset = preset
         self.file = pathlib.Path(entry["file"])
         self.name = self.file.relative_to(ROOT).as_posix()
-        words = entry["command"].replace("-isystem ", "-isystem").split()
+        words = shlex.split(entry["command"].replace("-isystem ", "-isystem"))
         self.arguments = [word for word in words if re.match(r"-(I|D|std=|W|isystem)", word)]
         self.arguments += ["-Wno-unknown-warning-option", "-include", str(SHIM), *EXTRA[preset]]
         self.headers = headers

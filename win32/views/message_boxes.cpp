@@ -1,7 +1,5 @@
 #include "win32/views/message_boxes.h"
 
-#include <ranges>
-
 #include "win32/text/utf16.h"
 
 namespace pelorin {
@@ -35,8 +33,10 @@ class InputHeld {
   InputHeld(const InputHeld&) = delete;
   InputHeld& operator=(const InputHeld&) = delete;
   ~InputHeld() {
-    for (HWND window : std::views::reverse(held_)) {
-      if (IsWindow(window)) EnableWindow(window, TRUE);
+    // The last one held back is the first to take input again.
+    while (!held_.empty()) {
+      if (IsWindow(held_.back())) EnableWindow(held_.back(), TRUE);
+      held_.pop_back();
     }
   }
 
