@@ -18,8 +18,7 @@ class ComPtr {
   ComPtr(const ComPtr& other) noexcept : ComPtr(other.pointer_) {}
   ComPtr(ComPtr&& other) noexcept : pointer_(std::exchange(other.pointer_, nullptr)) {}
   ComPtr& operator=(const ComPtr& other) noexcept {
-    ComPtr copy(other);
-    std::swap(pointer_, copy.pointer_);
+    if (this != &other) *this = ComPtr(other);
     return *this;
   }
   ComPtr& operator=(ComPtr&& other) noexcept {
