@@ -40,11 +40,23 @@ Component::~Component() {
 
 void Component::RaiseForm(WindowHandle owner) {
   const DefaultPointerAtEnd pointer(module_.screen());
-  if (module_.MyPermissionGranted(componentType, useKey)) {
+  // An object without a parent takes no owner away from the boxes of the windows that are open.
+  if (owner != 0) module_.screen().setHostWindow(owner);
+  if (permitted()) {
     showSummary(owner);
   } else {
-    module_.inform(module_.GRS(notPermittedText));
+    refuse();
   }
+}
+
+bool Component::permitted() {
+  const HourglassPointer hourglass(module_.screen());
+  return module_.MyPermissionGranted(componentType, useKey);
+}
+
+// A text that could not be had has been reported; an empty box would say no more.
+void Component::refuse() {
+  if (const auto text = module_.tryGRS(notPermittedText)) module_.inform(*text);
 }
 
 template <class FormType>

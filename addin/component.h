@@ -30,6 +30,8 @@ class Component {
   void RaiseForm(WindowHandle owner);
 
  private:
+  bool permitted();
+  void refuse();
   void showSummary(WindowHandle owner);
   void showEditor(const EditorRequest& request, WindowHandle owner);
   void showPicker(LocationTarget& parent, const std::string& mode);

@@ -8,6 +8,21 @@ namespace {
 
 constexpr const char* addInObject = "MorvatPelorin";
 
+BoxRequest exceptionBox(std::string_view member, const RunTimeError& error) {
+  return {std::string("Exception in class ") + addInObject + "." + std::string(member) + ": " +
+              error.description() + " [" + std::to_string(error.number()) + "]",
+          BoxIcon::None, BoxButtons::Ok};
+}
+
+void showException(Screen& screen, std::string_view member, const RunTimeError& error) noexcept {
+  try {
+    screen.messageBox(exceptionBox(member, error));
+  } catch (...) {
+    // Nothing is left that could tell the operator.
+    return;
+  }
+}
+
 }  // namespace
 
 // A design environment would assert its way through the counting twice; a built component counts
@@ -36,38 +51,49 @@ void TAManagerMembers::UnInstall() noexcept {
 }
 
 void TAManagerMembers::RaiseForm(WindowHandle owner) noexcept {
-  member("RaiseForm", [&] { component_.RaiseForm(owner); });
+  member("RaiseForm", [owner](Component& component) { component.RaiseForm(owner); });
+}
+
+void TAManagerMembers::OnEvent() noexcept {
+  member("OnEvent", [](Component&) {});
 }
 
 void TAManagerMembers::OnStream() noexcept {
-  member("OnStream", [&] { component_.module().screen().setMousePointer(MousePointer::Default); });
-}
-
-std::int32_t TAManagerMembers::GetAddInID(const std::string& addInObjectName) noexcept {
-  Module1& module = component_.module();
-  return guardedOr(module, "TAManager.GetAddInID", std::int32_t{0}, [&] {
-    RecordSet addIns = module.DBConnection()->open(
-        "SELECT DISTINCT AddInID FROM ApplicatrionAddIns WHERE AddInObjectName=N'" +
-        addInObjectName + "'");
-    return addIns.next() ? addIns.int32("AddInID") : 0;
+  member("OnStream", [](Component& component) {
+    component.module().screen().setMousePointer(MousePointer::Default);
   });
 }
 
-void TAManagerMembers::showException(std::string_view name, const RunTimeError& error) noexcept {
+std::int32_t TAManagerMembers::GetAddInID(const std::string& addInObjectName) noexcept {
+  std::int32_t number = 0;
+  member("GetAddInID", [&](Component& component) {
+    Module1& module = component.module();
+    guarded(module, "TAManager.GetAddInID", [&] {
+      RecordSet addIns = module.DBConnection()->open(
+          "SELECT DISTINCT AddInID FROM ApplicatrionAddIns WHERE AddInObjectName=N'" +
+          addInObjectName + "'");
+      if (addIns.next()) number = addIns.int32("AddInID");
+    });
+  });
+  return number;
+}
+
+void TAManagerMembers::member(std::string_view name, const Work& work) noexcept {
   try {
-    component_.module().screen().messageBox(
-        BoxRequest{std::string("Exception in class ") + addInObject + "." + std::string(name) +
-                       ": " + error.description() + " [" + std::to_string(error.number()) + "]",
-                   BoxIcon::None, BoxButtons::Ok});
+    const Visit visit(entrance_);
+    const Act act(visit.component().module().screen().acts());
+    if (const auto error = errorOf([&] { work(visit.component()); })) {
+      showException(visit.component().module().screen(), name, *error);
+    }
   } catch (...) {
-    // Nothing is left that could tell the operator.
-    return;
+    const RunTimeError error = currentError();
+    errorOf([&] { entrance_.tell(exceptionBox(name, error)); });
   }
 }
 
 void TAManagerMembers::hourglassAndBack(std::string_view name) noexcept {
-  member(name, [this] {
-    Screen& screen = component_.module().screen();
+  member(name, [](Component& component) {
+    Screen& screen = component.module().screen();
     const DefaultPointerAtEnd pointer(screen);
     screen.setMousePointer(MousePointer::Hourglass);
   });

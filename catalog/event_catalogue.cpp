@@ -12,6 +12,10 @@ namespace {
 constexpr std::size_t mostTypes = 51;
 constexpr std::int16_t lastOrdinaryFilter = 7;
 
+bool covers(const EventTypeInfo& type, std::int32_t eventId) noexcept {
+  return type.MinEventID <= eventId && eventId <= type.MaxEventID;
+}
+
 EventTypeInfo readEventType(const RecordSet& rows) {
   EventTypeInfo type;
   type.FilterType = rows.text("FilterType");
@@ -39,19 +43,26 @@ std::string returnToNormalQuery(std::int32_t alarmEventId) {
 
 }  // namespace
 
+void EventCatalogue::fetchEventTypes(std::vector<EventTypeInfo>& records) const {
+  RecordSet rows = module_.DBConnection()->open("exec TA_FetchAllEventTypeInfo");
+  std::size_t count = 0;
+  for (; rows.next(); ++count) {
+    if (count == mostTypes) {
+      throw RunTimeError(error_number::subscriptOutOfRange, "Subscript out of range", __LINE__);
+    }
+    records[count] = readEventType(rows);
+  }
+  rows.close();
+  records.resize(count + 1);
+}
+
+// A host that handles messages inside a statement can have the catalogue filled again meanwhile.
 void EventCatalogue::InitEventTypeInfoArray() {
   loaded_ = guarded(module_, "Module1.InitEventTypeInfoArray", [this] {
-    records_.assign(mostTypes, EventTypeInfo());
-    RecordSet rows = module_.DBConnection()->open("exec TA_FetchAllEventTypeInfo");
-    std::size_t count = 0;
-    for (; rows.next(); ++count) {
-      if (count == mostTypes) {
-        throw RunTimeError(error_number::subscriptOutOfRange, "Subscript out of range", __LINE__);
-      }
-      records_[count] = readEventType(rows);
-    }
-    rows.close();
-    records_.resize(count + 1);
+    std::vector<EventTypeInfo> fresh(mostTypes);
+    const std::exception_ptr error = exceptionOf([&] { fetchEventTypes(fresh); });
+    records_.swap(fresh);
+    if (error) std::rethrow_exception(error);
   });
 }
 
@@ -63,8 +74,8 @@ std::span<const EventTypeInfo> EventCatalogue::types() const noexcept {
   return std::span(records_).first(records_.empty() ? 0 : records_.size() - 1);
 }
 
-void EventCatalogue::LoadFilterList(ListBox& list) {
-  guarded(module_, "Module1.LoadFilterList", [&] {
+bool EventCatalogue::LoadFilterList(ListBox& list) {
+  return guarded(module_, "Module1.LoadFilterList", [&] {
     const bool newerHardware = module_.NTConnection()->ZornIsVn8HardwareSupportEnabled();
     RecordSet rows =
         module_.DBConnection()->open("select * from TA_EventFilters order by FilterIndex");
@@ -75,14 +86,6 @@ void EventCatalogue::LoadFilterList(ListBox& list) {
       }
     }
   });
-}
-
-const EventTypeInfo* EventCatalogue::typeOf(std::int32_t eventId) const noexcept {
-  const auto walked = types();
-  const auto found = std::find_if(walked.begin(), walked.end(), [eventId](const EventTypeInfo& t) {
-    return !t.TableName.empty() && t.MinEventID <= eventId && eventId <= t.MaxEventID;
-  });
-  return found == walked.end() ? nullptr : &*found;
 }
 
 std::string EventCatalogue::descriptionOf(const std::string& sql) {
@@ -97,10 +100,12 @@ std::string EventCatalogue::descriptionOf(const std::string& sql) {
 std::string EventCatalogue::GetEventDescription(std::int32_t eventId) {
   return guardedOr(module_, "Module1.GetEventDescription", std::string(), [&]() -> std::string {
     if (eventId > 80001 && eventId < 90000) return ZornGetEventDescription(eventId);
-    const EventTypeInfo* type = typeOf(eventId);
-    if (type == nullptr) return {};
-    return descriptionOf("select EventId, Description, DefaultDescription from " + type->TableName +
-                         " where EventId = " + numberText(eventId));
+    for (const EventTypeInfo& type : types()) {
+      if (type.TableName.empty() || !covers(type, eventId)) continue;
+      return descriptionOf("select EventId, Description, DefaultDescription from " +
+                           type.TableName + " where EventId = " + numberText(eventId));
+    }
+    return {};
   });
 }
 
@@ -112,21 +117,31 @@ std::string EventCatalogue::ZornGetEventDescription(std::int32_t eventId) {
   });
 }
 
+std::optional<std::int16_t> EventCatalogue::findFilter(std::int32_t eventId) {
+  if (eventId > 80000 && eventId < 90000) return findZornFilter(eventId);
+  const auto walked = types();
+  const auto found = std::find_if(walked.begin(), walked.end(),
+                                  [&](const EventTypeInfo& type) { return covers(type, eventId); });
+  return found == walked.end() ? std::int16_t{0} : found->FilterIndex;
+}
+
+std::optional<std::int16_t> EventCatalogue::findZornFilter(std::int32_t eventId) {
+  std::optional<std::int16_t> filter;
+  guarded(module_, "Module1.ZornGetFilterIndexByEventID", [&] {
+    RecordSet rows = module_.DBConnection()->open(
+        "select ZornEventType from zorn_EventDefinitions where EventID = " + numberText(eventId));
+    filter =
+        rows.next() ? ZornEventTypeToFilterIndex(rows.int32("ZornEventType")) : std::int16_t{0};
+  });
+  return filter;
+}
+
 std::int16_t EventCatalogue::GetFilterIndexByEventID(std::int32_t eventId) {
-  if (eventId > 80000 && eventId < 90000) return ZornGetFilterIndexByEventID(eventId);
-  const EventTypeInfo* type = typeOf(eventId);
-  return type == nullptr ? std::int16_t{0} : type->FilterIndex;
+  return findFilter(eventId).value_or(0);
 }
 
 std::int16_t EventCatalogue::ZornGetFilterIndexByEventID(std::int32_t eventId) {
-  return guardedOr(module_, "Module1.ZornGetFilterIndexByEventID", std::int16_t{0},
-                   [&]() -> std::int16_t {
-                     RecordSet rows = module_.DBConnection()->open(
-                         "select ZornEventType from zorn_EventDefinitions where EventID = " +
-                         numberText(eventId));
-                     return rows.next() ? ZornEventTypeToFilterIndex(rows.int32("ZornEventType"))
-                                        : std::int16_t{0};
-                   });
+  return findZornFilter(eventId).value_or(0);
 }
 
 std::int16_t EventCatalogue::ZornEventTypeToFilterIndex(std::int32_t zornEventType) noexcept {
@@ -148,7 +163,7 @@ std::int16_t EventCatalogue::ZornEventTypeToFilterIndex(std::int32_t zornEventTy
 
 std::string EventCatalogue::GetFilterTypeByFilterIndex(std::int16_t filterIndex) const {
   for (const EventTypeInfo& type : types()) {
-    if (!type.TableName.empty() && type.FilterIndex == filterIndex) return type.FilterType;
+    if (type.FilterIndex == filterIndex) return type.FilterType;
   }
   return {};
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -36,18 +37,21 @@ class EventCatalogue {
   // All elements, the empty last one included.
   std::vector<EventTypeInfo>& records() noexcept { return records_; }
   // What walks over the catalogue go through: all elements but the last. An element without a table
-  // name is no event type and has to be skipped.
+  // name has no events: who needs their table skips it.
   std::span<EventTypeInfo> types() noexcept;
   std::span<const EventTypeInfo> types() const noexcept;
 
-  // Adds the filters that this host's hardware offers, with their number as item data.
-  void LoadFilterList(ListBox& list);
+  // Adds the filters that this host's hardware offers, with their number as item data. False when
+  // an error ended it; the filters added before stay.
+  bool LoadFilterList(ListBox& list);
 
   // The event's text, read from the database at each call; empty when there is none.
   std::string GetEventDescription(std::int32_t eventId);
   std::string ZornGetEventDescription(std::int32_t eventId);
 
-  // 0 when no filter holds the event.
+  // 0 when no filter holds the event, nothing when that could not be read.
+  std::optional<std::int16_t> findFilter(std::int32_t eventId);
+  // 0 in both cases.
   std::int16_t GetFilterIndexByEventID(std::int32_t eventId);
   std::int16_t ZornGetFilterIndexByEventID(std::int32_t eventId);
   // 0 for every other type of event than 20, 21, 22, 24 and 25.
@@ -63,7 +67,9 @@ class EventCatalogue {
   void ClearAllEventsLoaded(const ListBox& filters) noexcept;
 
  private:
-  const EventTypeInfo* typeOf(std::int32_t eventId) const noexcept;
+  // Fills the 51 elements from the front, and leaves one more than there are rows at the end.
+  void fetchEventTypes(std::vector<EventTypeInfo>& records) const;
+  std::optional<std::int16_t> findZornFilter(std::int32_t eventId);
   std::string descriptionOf(const std::string& sql);
 
   Module1& module_;

@@ -20,9 +20,23 @@ RecordSet::RecordSet(std::unique_ptr<Cursor> cursor)
 
 std::size_t RecordSet::fetchBlock() {
   if (!cursor_) return 0;
-  const std::size_t fetched = cursor_->fetch(blockRows, cells_);
-  if (fetched == 0) cursor_.reset();
+  const std::size_t fetched = fetchOrKeepError();
+  if (fetched == 0 || pending_) cursor_.reset();
   return fetched;
+}
+
+// What came of a row that broke off is dropped.
+std::size_t RecordSet::fetchOrKeepError() {
+  const std::size_t before = cells_.size();
+  try {
+    return cursor_->fetch(blockRows, cells_);
+  } catch (...) {
+    pending_ = std::current_exception();
+    const std::size_t width = columns_.size();
+    const std::size_t whole = width == 0 ? 0 : (cells_.size() - before) / width;
+    cells_.resize(before + whole * width);
+    return whole;
+  }
 }
 
 bool RecordSet::next(SourceLine where) {
@@ -30,23 +44,19 @@ bool RecordSet::next(SourceLine where) {
     if (row_ == rows_) {
       cells_.clear();
       row_ = 0;
-      rows_ = 0;
       rows_ = fetchBlock();
-      if (pending_) std::rethrow_exception(std::exchange(pending_, nullptr));
     }
-    if (rows_ == 0) return false;
+    if (rows_ == 0) {
+      if (pending_) std::rethrow_exception(std::exchange(pending_, nullptr));
+      return false;
+    }
     ++row_;
     return true;
   });
 }
 
 void RecordSet::drain() {
-  try {
-    for (std::size_t fetched = fetchBlock(); fetched > 0; fetched = fetchBlock()) rows_ += fetched;
-  } catch (...) {
-    pending_ = std::current_exception();
-    cursor_.reset();
-  }
+  for (std::size_t fetched = fetchBlock(); fetched > 0; fetched = fetchBlock()) rows_ += fetched;
 }
 
 void RecordSet::close() {

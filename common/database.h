@@ -24,12 +24,14 @@ class Cursor {
   virtual ~Cursor() = default;
   virtual const std::vector<std::string>& columns() const = 0;
   // Appends up to `rows` rows to `cells` (row after row, columns().size() values each) and returns
-  // how many; 0 at the end.
+  // how many; 0 at the end. The rows appended before an error count as read; nothing is fetched
+  // after it.
   virtual std::size_t fetch(std::size_t rows, std::vector<Value>& cells) = 0;
 };
 
 // The rows of a result, from first to last; reads in blocks and closes on destruction. Fields are
-// found by name without regard to case (error 3265 when there is none) or by position from 0.
+// found by name without regard to case (error 3265 when there is none) or by position from 0. An
+// error of the database is raised by next() after the last row that came.
 class RecordSet {
  public:
   explicit RecordSet(std::unique_ptr<Cursor> cursor);
@@ -37,7 +39,7 @@ class RecordSet {
   // Moves to the next (at first: the first) row; false at the end.
   bool next(SourceLine where = SourceLine::current());
   // Fetches all that is left and closes the result, so that inner statements can run while next()
-  // goes through the rows. An error in between is raised by next() after the last row that came.
+  // goes through the rows.
   void drain();
   // Closes the result and keeps the rows that have been fetched: for who needs the current row
   // alone while inner statements run.
@@ -50,7 +52,7 @@ class RecordSet {
 
   template <class Field>
   std::string text(Field field, SourceLine where = SourceLine::current()) const {
-    return toText(value(field, where));
+    return withLine(where, [&] { return toText(value(field, where)); });
   }
   template <class Field>
   std::int32_t int32(Field field, SourceLine where = SourceLine::current()) const {
@@ -71,6 +73,7 @@ class RecordSet {
 
  private:
   std::size_t fetchBlock();
+  std::size_t fetchOrKeepError();
 
   std::unique_ptr<Cursor> cursor_;
   std::vector<std::string> columns_;

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <utility>
 
+#include "common/already_reported.h"
 #include "common/module1.h"
 
 namespace pelorin {
@@ -19,15 +20,10 @@ namespace pelorin {
 // The error being handled, whatever its C++ type.
 RunTimeError currentError() noexcept;
 
-// Thrown by an outer procedure after an inner one failed and has reported it already: ends the
-// whole operation without a second report.
-struct AlreadyReported : std::exception {
-  const char* what() const noexcept override { return "already reported"; }
-};
-
 // True when `work` ended without an error.
 template <class Work>
 bool guarded(Module1& module, std::string_view procedure, Work&& work) noexcept {
+  const Act act(module.screen().acts());
   try {
     std::forward<Work>(work)();
     return true;
@@ -45,6 +41,18 @@ Result guardedOr(Module1& module, std::string_view procedure, Result fallback,
                  Work&& work) noexcept {
   guarded(module, procedure, [&] { fallback = std::forward<Work>(work)(); });
   return fallback;
+}
+
+// What ended `work`, null when nothing did: for a caller that has to put something in order before
+// it lets the error go on.
+template <class Work>
+std::exception_ptr exceptionOf(Work&& work) noexcept {
+  try {
+    std::forward<Work>(work)();
+    return nullptr;
+  } catch (...) {
+    return std::current_exception();
+  }
 }
 
 // The error that ended `work`, if one did: for a caller that goes on by the error's number.

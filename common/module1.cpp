@@ -1,6 +1,7 @@
 #include "common/module1.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "common/guard.h"
 #include "controls/text_key.h"
@@ -10,6 +11,8 @@ namespace pelorin {
 namespace {
 
 constexpr unsigned iniBufferCharacters = 200;
+constexpr int reportBoxesOfAct = 10;
+constexpr std::size_t charactersOfBox = 2000;
 
 template <class Reference>
 std::shared_ptr<Reference> required(const std::shared_ptr<Reference>& reference,
@@ -28,27 +31,80 @@ std::string inOneLine(std::string text) {
   return text;
 }
 
+// Whole characters of UTF-8.
+std::string firstCharacters(const std::string& text, std::size_t count) {
+  std::size_t end = 0;
+  for (; end < text.size(); ++end) {
+    const bool starts = (static_cast<unsigned char>(text[end]) & 0xC0) != 0x80;
+    if (starts && count-- == 0) break;
+  }
+  return text.substr(0, end);
+}
+
+std::string moreErrors(int count, const char* what) {
+  return std::to_string(count) + " more errors " + what + " Pelorin.txt.";
+}
+
 }  // namespace
+
+Module1::Module1(Screen& screen, Environment& environment)
+    : screen_(screen), environment_(environment) {
+  screen_.acts().onEnded = [this] { actEnded(); };
+}
+
+Module1::~Module1() {
+  screen_.acts().onEnded = nullptr;
+}
+
+void Module1::setDBConnection(std::shared_ptr<Connection> database) {
+  database_ = std::move(database);
+  connectionLost_ = false;
+}
 
 std::shared_ptr<HostServices> Module1::NTConnection(SourceLine where) const {
   return required(services_, where);
 }
 
 std::shared_ptr<Connection> Module1::DBConnection(SourceLine where) const {
+  if (connectionLost_) throw AlreadyReported();
   return required(database_, where);
 }
 
 void Module1::ReportError(std::string_view procedure, const RunTimeError& error) noexcept {
-  ++reports_;
+  const Act act(screen_.acts());
+  connectionLost_ = connectionLost_ || error.connectionLost();
   try {
     const std::string text = std::string(procedure) + ": Line: " + std::to_string(error.line()) +
                              " :" + error.description();
-    LogError(text);
-    screen_.messageBox(BoxRequest{text, BoxIcon::Critical, BoxButtons::Ok});
+    showReport(text, LogError(text));
   } catch (...) {
     // Nothing is left that could tell the operator.
     return;
   }
+}
+
+void Module1::showReport(const std::string& text, bool logged) {
+  if (ofAct_.shown == reportBoxesOfAct) {
+    ++(logged ? ofAct_.onlyLogged : ofAct_.lost);
+    return;
+  }
+  ++ofAct_.shown;
+  screen_.messageBox(
+      BoxRequest{firstCharacters(text, charactersOfBox), BoxIcon::Critical, BoxButtons::Ok});
+}
+
+void Module1::actEnded() noexcept {
+  connectionLost_ = false;
+  const ReportsOfAct reports = std::exchange(ofAct_, {});
+  errorOf([&] {
+    std::string text;
+    if (reports.onlyLogged > 0) text = moreErrors(reports.onlyLogged, "were written to");
+    if (reports.lost > 0) {
+      text += text.empty() ? "" : "\r\n";
+      text += moreErrors(reports.lost, "could not be written to");
+    }
+    if (!text.empty()) screen_.messageBox(BoxRequest{text, BoxIcon::Critical, BoxButtons::Ok});
+  });
 }
 
 bool Module1::LogError(const std::string& message) noexcept {
@@ -61,7 +117,11 @@ bool Module1::LogError(const std::string& message) noexcept {
 }
 
 std::string Module1::GRS(std::int32_t id, const Substitutions& texts) noexcept {
-  return guardedOr(*this, "MPublic: GRS", std::string(), [&] {
+  return tryGRS(id, texts).value_or(std::string());
+}
+
+std::optional<std::string> Module1::tryGRS(std::int32_t id, const Substitutions& texts) noexcept {
+  return guardedOr(*this, "MPublic: GRS", std::optional<std::string>(), [&] {
     return texts.front().empty() ? NTConnection()->GetResourceString(id)
                                  : NTConnection()->GRS(id, texts);
   });

@@ -4,8 +4,10 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "common/database.h"
 #include "common/environment.h"
@@ -16,28 +18,44 @@ namespace pelorin {
 
 class Module1 {
  public:
-  Module1(Screen& screen, Environment& environment) : screen_(screen), environment_(environment) {}
+  // The only one on its screen.
+  Module1(Screen& screen, Environment& environment);
+  Module1(const Module1&) = delete;
+  Module1& operator=(const Module1&) = delete;
+  ~Module1();
 
   // Set by the host, at any time; used from the next statement on. Null is nothing.
   void setNTConnection(std::shared_ptr<HostServices> services) { services_ = std::move(services); }
-  void setDBConnection(std::shared_ptr<Connection> database) { database_ = std::move(database); }
+  void setDBConnection(std::shared_ptr<Connection> database);
 
-  // Error 91 when the host gave none. Hold the result only for one call.
+  // Leaves nothing here.
+  void handReferencesTo(Module1& other) noexcept {
+    other.services_ = std::exchange(services_, nullptr);
+    other.setDBConnection(std::exchange(database_, nullptr));
+  }
+
+  // Error 91 when the host gave none. Hold the result only for one call. The database of a lost
+  // connection is AlreadyReported, so that the load or save ends that noticed it.
   std::shared_ptr<HostServices> NTConnection(SourceLine where = SourceLine::current()) const;
   std::shared_ptr<Connection> DBConnection(SourceLine where = SourceLine::current()) const;
 
   Screen& screen() const noexcept { return screen_; }
   Environment& environment() const noexcept { return environment_; }
 
-  // Appends the report to the log file and shows it in a critical message box. Never throws; when
-  // the log cannot be written the box is shown all the same.
+  // Appends the report to the log file and shows it in a critical message box, its first 2,000
+  // characters at most. Never throws; when the log cannot be written the box is shown all the same.
+  // One act shows ten of these boxes; at its end one box says how many more there were.
   void ReportError(std::string_view procedure, const RunTimeError& error) noexcept;
-  // How many errors have been reported: who fills a form from many procedures sees whether one
-  // failed.
-  unsigned reportCount() const noexcept { return reports_; }
+  // True from the report of a lost connection to the end of the act, unless the host gives another
+  // connection: a load that goes through rows ends.
+  bool connectionLost() const noexcept { return connectionLost_; }
+  // Appends one line to the log file; false when it cannot be written.
+  bool LogError(const std::string& message) noexcept;
 
   // Resource text from the host; empty after an error (reported as "MPublic: GRS").
   std::string GRS(std::int32_t id, const Substitutions& texts = {}) noexcept;
+  // The same, but nothing after an error: an empty text is what the host answered.
+  std::optional<std::string> tryGRS(std::int32_t id, const Substitutions& texts = {}) noexcept;
   // False after an error (reported as "Module1.MyPermissionGranted").
   bool MyPermissionGranted(std::int16_t componentType, const std::string& subPermission) noexcept;
   // At most 200 characters; "NOTINITIALIZED" when file, section or key is missing or cannot be
@@ -51,13 +69,22 @@ class Module1 {
   void inform(const std::string& text);
 
  private:
-  bool LogError(const std::string& message) noexcept;
+  void showReport(const std::string& text, bool logged);
+  void actEnded() noexcept;
 
   Screen& screen_;
   Environment& environment_;
   std::shared_ptr<HostServices> services_;
   std::shared_ptr<Connection> database_;
-  unsigned reports_ = 0;
+
+  // Of the act that is under way.
+  struct ReportsOfAct {
+    int shown = 0;
+    int onlyLogged = 0;
+    int lost = 0;  // neither shown nor logged
+  };
+  ReportsOfAct ofAct_;
+  bool connectionLost_ = false;
 };
 
 // The device classes a trigger action can act on.

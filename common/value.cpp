@@ -22,6 +22,10 @@ Overloaded(Cases...) -> Overloaded<Cases...>;
   throw RunTimeError(error_number::overflow, "Overflow");
 }
 
+[[noreturn]] void typeMismatch() {
+  throw RunTimeError(error_number::typeMismatch, "Type mismatch");
+}
+
 std::int64_t roundToInt64(double number) {
   constexpr double limit = 9223372036854775808.0;
   const double rounded = std::nearbyint(number);
@@ -106,18 +110,19 @@ std::string toText(const Value& value) {
                                [](double number) { return numberText(number); },
                                [](bool truth) { return std::string(truth ? "True" : "False"); },
                                [](const std::string& text) { return text; },
-                               [](Date date) { return numberText(date.days); }},
+                               [](Date date) { return numberText(date.days); },
+                               [](Unreadable) -> std::string { typeMismatch(); }},
                     value);
 }
 
 double toReal(const Value& value) {
-  return std::visit(Overloaded{[](Null) { return 0.0; },
-                               [](std::int64_t number) { return static_cast<double>(number); },
-                               [](double number) { return number; },
-                               [](bool truth) { return truth ? -1.0 : 0.0; },
-                               [](const std::string& text) { return parseNumber(text); },
-                               [](Date date) { return date.days; }},
-                    value);
+  return std::visit(
+      Overloaded{
+          [](Null) { return 0.0; }, [](std::int64_t number) { return static_cast<double>(number); },
+          [](double number) { return number; }, [](bool truth) { return truth ? -1.0 : 0.0; },
+          [](const std::string& text) { return parseNumber(text); },
+          [](Date date) { return date.days; }, [](Unreadable) -> double { typeMismatch(); }},
+      value);
 }
 
 std::int64_t toInt64(const Value& value) {

@@ -18,7 +18,12 @@ struct Date {
   bool operator==(const Date&) const = default;
 };
 
-using Value = std::variant<Null, std::int64_t, double, bool, std::string, Date>;
+// Of a type that the component does not know. Only who reads it gets the error: 13.
+struct Unreadable {
+  bool operator==(const Unreadable&) const = default;
+};
+
+using Value = std::variant<Null, std::int64_t, double, bool, std::string, Date, Unreadable>;
 
 inline bool isNull(const Value& value) {
   return std::holds_alternative<Null>(value);

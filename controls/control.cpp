@@ -31,6 +31,12 @@ void Control::setEnabled(bool enabled) {
   notify(Aspect::Enabled);
 }
 
+void Control::setCovered(bool covered) {
+  if (covered == covered_) return;
+  covered_ = covered;
+  notify(Aspect::Enabled);
+}
+
 void Control::setPlace(const Place& place) {
   if (place == place_) return;
   place_ = place;
@@ -49,7 +55,7 @@ void Control::setContainer(Control& container, int page) noexcept {
 }
 
 bool Control::reachable() const noexcept {
-  if (!visible_ || !enabled_) return false;
+  if (!visible_ || !enabled_ || covered_) return false;
   if (container_ == nullptr) return true;
   if (container_->kind() == ControlKind::TabControl &&
       static_cast<const TabControl*>(container_)->tab() != page_) {

@@ -2,6 +2,7 @@
 // A native peer (or nothing, when running head-less) mirrors it.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace pelorin {
@@ -30,6 +31,12 @@ struct Place {
   int height = 0;
   bool operator==(const Place&) const = default;
 };
+constexpr std::int64_t rightOf(const Place& place) noexcept {
+  return std::int64_t{place.left} + place.width;
+}
+constexpr std::int64_t bottomOf(const Place& place) noexcept {
+  return std::int64_t{place.top} + place.height;
+}
 
 // What a view has to look at again. `index` names the row or page where one is concerned, else -1.
 enum class Aspect {
@@ -81,6 +88,9 @@ class Control {
   void setVisible(bool visible);
   bool enabled() const noexcept { return enabled_; }
   void setEnabled(bool enabled);
+  // Something stands in front of the control: it stays where it is, out of the operator's reach.
+  bool covered() const noexcept { return covered_; }
+  void setCovered(bool covered);
   const Place& place() const noexcept { return place_; }
   void setPlace(const Place& place);
   bool bold() const noexcept { return bold_; }
@@ -93,8 +103,8 @@ class Control {
   int page() const noexcept { return page_; }
   void setContainer(Control& container, int page = 0) noexcept;
 
-  // Whether an operator could reach it now: visible and enabled, and so are its containers, and
-  // its page is in front.
+  // Whether an operator could reach it now: visible, enabled and not covered, and so are its
+  // containers, and its page is in front.
   bool reachable() const noexcept;
 
   ControlView* view() const noexcept { return view_; }
@@ -112,6 +122,7 @@ class Control {
   Place place_;
   bool visible_ = true;
   bool enabled_ = true;
+  bool covered_ = false;
   bool bold_ = false;
   Control* container_ = nullptr;
   int page_ = 0;

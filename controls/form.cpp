@@ -7,6 +7,13 @@
 
 namespace pelorin {
 
+namespace {
+
+// In twips, more than any screen has: laying controls out can add and scale without overflow.
+constexpr int largestClient = 1000000;
+
+}  // namespace
+
 Form::Form(std::string name, std::string caption, Size client)
     : name_(std::move(name)), caption_(std::move(caption)), client_(client) {}
 
@@ -84,8 +91,10 @@ void Form::userClose() {
 }
 
 void Form::userResize(Size client) {
-  if (client == client_) return;
-  client_ = client;
+  const Size possible{std::clamp(client.width, 0, largestClient),
+                      std::clamp(client.height, 0, largestClient)};
+  if (possible == client_) return;
+  client_ = possible;
   Form_Resize();
 }
 

@@ -29,6 +29,9 @@ namespace key_code {
 inline constexpr int enter = 13;
 inline constexpr int escape = 27;
 inline constexpr int space = 32;
+// Page Up, Page Down, End, Home and the arrows follow each other.
+inline constexpr int pageUp = 33;
+inline constexpr int down = 40;
 }  // namespace key_code
 
 class FormView {
@@ -72,6 +75,10 @@ class Form {
   Screen* screen() const noexcept { return screen_; }
   // The form's window; 0 while it is closed.
   WindowHandle hwnd() const;
+  // The form is unloaded with the form of this window, whoever owns its own window; 0: with none.
+  // For a form that is owned only later, or by hand.
+  WindowHandle leader() const noexcept { return leader_; }
+  void setLeader(WindowHandle leader) noexcept { leader_ = leader; }
   void unload();
 
   // Called once after every unload; whoever keeps the form may retire it here.
@@ -125,6 +132,7 @@ class Form {
   Control* focused_ = nullptr;
   ContextMenu contextMenu_;
   Screen* screen_ = nullptr;
+  WindowHandle leader_ = 0;
   bool unloading_ = false;
   FormView* view_ = nullptr;
 };

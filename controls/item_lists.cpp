@@ -48,7 +48,10 @@ std::int32_t ComboBox::selectedData() const {
 }
 
 void ComboBox::userSelect(int index) {
-  if (reachable()) setListIndex(index);
+  if (!reachable()) return;
+  const bool again = index == listIndex_ && index != -1;
+  setListIndex(index);
+  if (again && onClick) onClick();
 }
 
 ListBox::ListBox(std::string name, Place place)

@@ -35,7 +35,7 @@ class ComboBox : public Control {
   std::int32_t selectedData() const;
 
   std::function<void()> onClick;
-  // The operator picks a row.
+  // The operator picks a row; picking the current one again raises the click, too.
   void userSelect(int index);
 
  private:

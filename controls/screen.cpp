@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/flag_while.h"
+
 namespace pelorin {
 
 namespace {
@@ -53,29 +55,40 @@ Form* Screen::formOf(WindowHandle window) const {
   return found == open_.end() ? nullptr : *found;
 }
 
-void Screen::unloadOwnedBy(const Form& form) {
+// A form that is just being unloaded does not count: its own turn has come.
+Form* Screen::lastOwnedBy(const Form& form) const {
   const WindowHandle window = windowOf(form);
-  while (window != 0) {
-    const auto owned = std::find_if(owners_.rbegin(), owners_.rend(), [window](const Owned& o) {
-      return o.owner == window && !o.form->unloading_;
-    });
-    if (owned == owners_.rend()) return;
-    unload(*owned->form);
+  if (window == 0) return nullptr;
+  const auto owned = std::find_if(owners_.rbegin(), owners_.rend(), [window](const Owned& o) {
+    return (o.owner == window || o.form->leader() == window) && !o.form->unloading_;
+  });
+  return owned == owners_.rend() ? nullptr : owned->form;
+}
+
+Form* Screen::innermostOwnedBy(const Form& form) const {
+  Form* innermost = nullptr;
+  for (Form* next = lastOwnedBy(form); next != nullptr; next = lastOwnedBy(*next)) {
+    innermost = next;
   }
+  return innermost;
 }
 
 void Screen::unload(Form& form) {
   if (form.screen_ != this || form.unloading_) return;
   const Running running(running_);
-  form.unloading_ = true;
-  unloadOwnedBy(form);
-  form.Form_Unload();
-  std::erase(open_, &form);
-  std::erase_if(owners_, [&form](const Owned& owned) { return owned.form == &form; });
-  destroyWindow(form);
-  form.screen_ = nullptr;
-  form.view_ = nullptr;
-  form.unloading_ = false;
+  {
+    const FlagWhile unloading(form.unloading_);
+    while (Form* owned = lastOwnedBy(form)) unload(*owned);
+    // Form_Unload may give the owner back.
+    const WindowHandle owner = entryOf(form)->owner;
+    form.Form_Unload();
+    passActivation(form, owner);
+    std::erase(open_, &form);
+    std::erase_if(owners_, [&form](const Owned& owned) { return owned.form == &form; });
+    destroyWindow(form);
+    form.screen_ = nullptr;
+    form.view_ = nullptr;
+  }
   const std::function<void()> unloaded = form.onUnloaded;
   if (unloaded) unloaded();
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "controls/acts.h"
 #include "controls/form.h"
 
 namespace pelorin {
@@ -33,7 +34,8 @@ class Screen {
   // Loads the form and shows it modeless, owned by the window `owner` (0: none). A form that is
   // open already is brought to the front, restored if minimised, and nothing else.
   void show(Form& form, WindowHandle owner = 0);
-  // Unloads the form after every form that it owns, innermost first; each gets its Form_Unload.
+  // Unloads the form after every form that it owns or leads, innermost first; each gets its
+  // Form_Unload.
   void unload(Form& form);
   // Unloads every open form, innermost first.
   void unloadAll();
@@ -41,6 +43,8 @@ class Screen {
   // In the order in which they were opened.
   const std::vector<Form*>& openForms() const noexcept { return open_; }
   Form* formOf(WindowHandle window) const;
+  // The window in front of all that the form owns, at whatever distance; null when it owns none.
+  Form* innermostOwnedBy(const Form& form) const;
 
   // Makes `owner` the owner of an open form's window and returns the previous one.
   WindowHandle setOwner(Form& form, WindowHandle owner);
@@ -50,6 +54,11 @@ class Screen {
   virtual MousePointer mousePointer() const = 0;
   virtual void setMousePointer(MousePointer pointer) = 0;
   virtual WindowHandle windowOf(const Form& form) const = 0;
+  // Owns message boxes while none of our windows is active; 0 or a window that is gone: none.
+  virtual void setHostWindow(WindowHandle window) = 0;
+
+  // What the operator and the host are doing.
+  Acts& acts() noexcept { return acts_; }
 
   // Keeps an unloaded form until no handler of any form can be on the call stack.
   void retire(std::unique_ptr<Form> form);
@@ -63,6 +72,8 @@ class Screen {
   // Makes the controls from their models and shows the window.
   virtual void presentWindow(Form& form) = 0;
   virtual void raiseWindow(Form& form) = 0;
+  // The form's window is about to go: where it is the active one, `owner` becomes it.
+  virtual void passActivation(Form& form, WindowHandle owner) = 0;
   virtual void destroyWindow(Form& form) = 0;
   virtual void changeOwner(Form& form, WindowHandle owner) = 0;
 
@@ -72,9 +83,10 @@ class Screen {
     WindowHandle owner;
   };
   Owned* entryOf(const Form& form);
-  void unloadOwnedBy(const Form& form);
+  Form* lastOwnedBy(const Form& form) const;
   void load(Form& form, WindowHandle owner);
 
+  Acts acts_;
   std::vector<Form*> open_;
   std::vector<Owned> owners_;
   std::vector<std::unique_ptr<Form>> retired_;

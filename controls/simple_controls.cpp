@@ -55,7 +55,7 @@ void TextBox::userType(const std::string& ascii) {
 }
 
 void TextBox::userLeave() const {
-  if (onValidate) onValidate();
+  if (enabled() && onValidate) onValidate();
 }
 
 }  // namespace pelorin

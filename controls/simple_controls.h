@@ -58,7 +58,7 @@ class TextBox : public Control {
 
   // Key code of a typed character (Unicode); the handler sets it to 0 to discard the key.
   std::function<void(char32_t& key)> onKeyPress;
-  // Focus leaves the box for another control of the form.
+  // Focus leaves the box, unless it is disabled, for another control of the form.
   std::function<void()> onValidate;
 
   // The operator's acts. userKey tells whether the key is kept; the caller then applies it.

@@ -93,6 +93,10 @@ void TreeView::userDoubleClick() {
   if (reachable() && selected_ != nullptr && onDoubleClick) onDoubleClick();
 }
 
+void TreeView::userKey(char32_t key) const {
+  if (reachable() && onKeyPress) onKeyPress(key);
+}
+
 void TreeView::userExpand(TreeNode& node, bool expanded) {
   node.expanded = expanded;
 }

@@ -77,9 +77,12 @@ class TreeView : public Control {
   // Every change of the selection by the operator (mouse or keyboard), and a click on a node.
   std::function<void(TreeNode& node)> onNodeClick;
   std::function<void()> onDoubleClick;
+  // A character typed into the tree, which then searches for a node by itself.
+  std::function<void(char32_t key)> onKeyPress;
   void userSelect(TreeNode& node);
   // A double-click on a node, or Space or Enter on it. It is the selected node by then.
   void userDoubleClick();
+  void userKey(char32_t key) const;
   void userExpand(TreeNode& node, bool expanded);
 
  private:

@@ -10,6 +10,12 @@ std::int32_t dataOrZero(const ComboBox& combo) {
   return combo.listIndex() < 0 ? 0 : combo.selectedData();
 }
 
+bool standsFor(const ComboBox& combo, std::int32_t stored, bool listRead, bool optional) {
+  if (listRead) return true;
+  if (combo.listIndex() < 0) return optional && stored == 0;
+  return combo.selectedData() == stored;
+}
+
 std::int32_t requiredData(const ComboBox& combo, const std::string& field, SourceLine where) {
   if (combo.listIndex() < 0) {
     throw RunTimeError(error_number::invalidPropertyValue, "Nothing is selected: " + field,

@@ -38,6 +38,10 @@ class DvrPanel;
 CctvValues readValues(const CctvPanel& panel);
 DvrValues readValues(const DvrPanel& panel);
 
+// Whether saving would keep the stored value, or its list was read whole, so that what the list
+// shows in its stead is right. `optional`: nothing selected is saved as 0.
+bool standsFor(const ComboBox& combo, std::int32_t stored, bool listRead, bool optional = false);
+
 // Item data of the selected row.
 std::int32_t dataOrZero(const ComboBox& combo);
 std::int32_t requiredData(const ComboBox& combo, const std::string& field,

@@ -4,6 +4,7 @@
 
 #include "common/combo_helpers.h"
 #include "common/guard.h"
+#include "editor/action_values.h"
 #include "editor/switcher_settings.h"
 
 namespace pelorin {
@@ -78,8 +79,10 @@ void CctvPanel::layOut() {
   chkCCTVAutoRTNTriggers.setChecked(false);
 }
 
-void CctvPanel::LoadCCTVAction(std::int32_t taId) {
-  guarded(module_, "frmTriggerAction.LoadCCTVAction", [&] {
+bool CctvPanel::LoadCCTVAction(std::int32_t taId) {
+  bool whole = true;
+  const bool read = guarded(module_, "frmTriggerAction.LoadCCTVAction", [&] {
+    const HourglassPointer hourglass(module_.screen());
     LoadCCTVSwitcherCombo(cmbCCTVSwitchers);
     if (taId <= 0) return;
     RecordSet rows = module_.DBConnection()->open(
@@ -88,7 +91,21 @@ void CctvPanel::LoadCCTVAction(std::int32_t taId) {
     const StoredAction stored(rows);
     rows.close();
     showStored(stored);
+    whole = showsWhole(stored);
   });
+  return read && whole;
+}
+
+// The controls that the action hides are saved with what they hold.
+bool CctvPanel::showsWhole(const StoredAction& stored) const {
+  const auto stands = [](const ComboBox& combo, std::int32_t value, bool listRead) {
+    return standsFor(combo, value, listRead, !combo.visible());
+  };
+  return standsFor(cmbCCTVSwitchers, stored.switcher, read_.switchers) &&
+         standsFor(cmbCCTVActions, stored.action, read_.actions) &&
+         stands(cmbCCTVCameras, stored.camera, read_.cameras) &&
+         stands(cmbCCTVMonitors, stored.monitor, read_.monitors) &&
+         standsFor(cmbCCTVPresets, stored.preset, read_.presets, true);
 }
 
 void CctvPanel::showStored(const StoredAction& stored) {
@@ -102,7 +119,7 @@ void CctvPanel::showStored(const StoredAction& stored) {
 }
 
 void CctvPanel::LoadCCTVSwitcherCombo(ComboBox& combo) {
-  guarded(module_, "frmTriggerAction.LoadCCTVSwitcherCombo", [&] {
+  read_.switchers = guarded(module_, "frmTriggerAction.LoadCCTVSwitcherCombo", [&] {
     m_bLoadingCCTVSwitchers = true;
     RecordSet rows =
         module_.DBConnection()->open("select SwitcherID, Name, INI_FILE from CCTV_Switchers");
@@ -118,6 +135,7 @@ void CctvPanel::LoadCCTVSwitcherCombo(ComboBox& combo) {
 void CctvPanel::cmbCCTVSwitchers_Click() {
   guarded(module_, "frmTriggerAction.cmbCCTVSwitchers_Click", [this] {
     if (cmbCCTVSwitchers.listIndex() < 0) return;
+    const HourglassPointer hourglass(module_.screen());
     const std::int32_t switcherId = cmbCCTVSwitchers.selectedData();
     InitCCTVActionCombo(cmbCCTVActions);
     InitCCTVCameras(cmbCCTVCameras, switcherId);
@@ -126,7 +144,7 @@ void CctvPanel::cmbCCTVSwitchers_Click() {
 }
 
 void CctvPanel::InitCCTVActionCombo(ComboBox& combo) {
-  guarded(module_, "frmTriggerAction.InitCCTVActionCombo", [&] {
+  read_.actions = guarded(module_, "frmTriggerAction.InitCCTVActionCombo", [&] {
     combo.clear();
     combo.addItem(module_.GetCCTVActionName(cctv_action::callCamera), cctv_action::callCamera);
     for (const std::int16_t action : {cctv_action::raiseAlarm, cctv_action::acknowledgeAlarm}) {
@@ -144,9 +162,10 @@ void CctvPanel::IsCCTVActionSupported(std::int16_t action, bool& supported) cons
 }
 
 void CctvPanel::InitCCTVCameras(ComboBox& combo, std::int32_t switcherId) {
-  guarded(module_, "frmTriggerAction.InitCCTVCameras", [&] {
+  read_.cameras = guarded(module_, "frmTriggerAction.InitCCTVCameras", [&] {
     combo.clear();
     cmbCCTVPresets.clear();
+    read_.presets = true;
     RecordSet rows = module_.DBConnection()->open(
         "select Name, [Index] from CCTV_Cameras where SwitcherId =" + std::to_string(switcherId) +
         " order by [index]");
@@ -156,7 +175,7 @@ void CctvPanel::InitCCTVCameras(ComboBox& combo, std::int32_t switcherId) {
 }
 
 void CctvPanel::InitCCTVMonitors(ComboBox& combo, std::int32_t switcherId) {
-  guarded(module_, "frmTriggerAction.InitCCTVMonitors", [&] {
+  read_.monitors = guarded(module_, "frmTriggerAction.InitCCTVMonitors", [&] {
     combo.clear();
     RecordSet rows = module_.DBConnection()->open(
         "select nOutputs from CCTV_Switchers where SwitcherId = " + std::to_string(switcherId));
@@ -172,6 +191,7 @@ void CctvPanel::InitCCTVMonitors(ComboBox& combo, std::int32_t switcherId) {
 void CctvPanel::cmbCCTVCameras_Click() {
   guarded(module_, "frmTriggerAction.cmbCCTVCameras_Click", [this] {
     if (cmbCCTVCameras.listIndex() < 0) return;
+    const HourglassPointer hourglass(module_.screen());
     InitCCTVCameraPresets(cmbCCTVSwitchers.selectedData(), cmbCCTVPresets,
                           cmbCCTVCameras.selectedData());
   });
@@ -179,7 +199,7 @@ void CctvPanel::cmbCCTVCameras_Click() {
 
 void CctvPanel::InitCCTVCameraPresets(std::int32_t switcherId, ComboBox& combo,
                                       std::int32_t cameraIndex) {
-  guarded(module_, "frmTriggerAction.InitCCTVCameraPresets", [&] {
+  read_.presets = guarded(module_, "frmTriggerAction.InitCCTVCameraPresets", [&] {
     combo.clear();
     RecordSet rows =
         module_.DBConnection()->open("CCTV_FetchCameraNoPresets " + std::to_string(cameraIndex) +

@@ -44,8 +44,9 @@ class CctvPanel {
   // The alarm controls take the places of the camera controls.
   void layOut();
 
-  // Fills the panel and shows the stored action, if there is one.
-  void LoadCCTVAction(std::int32_t taId);
+  // Fills the panel and shows the stored action, if there is one. False when something of it that
+  // would be saved again could not be read.
+  bool LoadCCTVAction(std::int32_t taId);
   void LoadCCTVSwitcherCombo(ComboBox& combo);
   void InitCCTVActionCombo(ComboBox& combo);
   void IsCCTVActionSupported(std::int16_t action, bool& supported) const;
@@ -59,12 +60,22 @@ class CctvPanel {
 
  private:
   struct StoredAction;
+  // Whether each list was read to its end when it was last filled.
+  struct ListsRead {
+    bool switchers = true;
+    bool actions = true;
+    bool cameras = true;
+    bool presets = true;
+    bool monitors = true;
+  };
 
+  bool showsWhole(const StoredAction& stored) const;
   void showStored(const StoredAction& stored);
   void showCameraControls(bool visible);
   void showAlarmControls(bool visible);
 
   Module1& module_;
+  ListsRead read_;
   // Written as the panel loads; nothing depends on them.
   bool m_bLoadingCCTVSwitchers = false;
   bool m_bLoadingSwitchers = false;

@@ -2,7 +2,7 @@
 
 #include "common/combo_helpers.h"
 #include "common/guard.h"
-#include "editor/flag_while.h"
+#include "controls/flag_while.h"
 
 namespace pelorin {
 
@@ -17,8 +17,8 @@ DeviceClasses::DeviceClasses(Module1& module, TabControl& tabs, int page, Frame&
   cmbActionDeviceClass.onClick = [this] { cmbActionDeviceClass_Click(); };
 }
 
-void DeviceClasses::LoadDeviceClassCombo(ComboBox& combo) {
-  guarded(module_, "frmTriggerAction.LoadDeviceClassCombo", [&] {
+bool DeviceClasses::LoadDeviceClassCombo(ComboBox& combo) {
+  return guarded(module_, "frmTriggerAction.LoadDeviceClassCombo", [&] {
     const FlagWhile loading(m_bLoadingDeviceClasses);
     combo.clear();
     addClasses(combo);

@@ -22,8 +22,8 @@ class DeviceClasses {
   std::vector<Control*> controls() { return {&lblActionDeviceClass, &cmbActionDeviceClass}; }
 
   // "CCTV" and the classes of the database that the editor can save; selects the first one without
-  // showing its panel.
-  void LoadDeviceClassCombo(ComboBox& combo);
+  // showing its panel. False when an error ended it.
+  bool LoadDeviceClassCombo(ComboBox& combo);
   void cmbActionDeviceClass_Click();
   // Selects the class, when the combo has it, and shows its panel alone; none for another class.
   void DisplayDeviceAction(std::int32_t deviceClass);

@@ -5,7 +5,8 @@
 
 #include "common/combo_helpers.h"
 #include "common/guard.h"
-#include "editor/flag_while.h"
+#include "controls/flag_while.h"
+#include "editor/action_values.h"
 
 namespace pelorin {
 
@@ -83,8 +84,10 @@ std::vector<Control*> DvrPanel::controls() {
           &lblDVRViewGroups,    &cmbDVRViewGroups,    &lblCommandSet,       &cmbCommandSet};
 }
 
-void DvrPanel::LoadDVRAction(std::int32_t actionId) {
-  guarded(module_, "frmTriggerAction.LoadDVRAction", [&] {
+bool DvrPanel::LoadDVRAction(std::int32_t actionId) {
+  bool whole = true;
+  const bool read = guarded(module_, "frmTriggerAction.LoadDVRAction", [&] {
+    const HourglassPointer hourglass(module_.screen());
     LoadDVRUnitCombo(cmbDVRUnit);
     LoadDVRVideoExplorerGroups(cmbDVRViewGroups);
     RecordSet rows = module_.DBConnection()->open(
@@ -94,7 +97,17 @@ void DvrPanel::LoadDVRAction(std::int32_t actionId) {
     const StoredAction stored(rows);
     rows.close();
     showStored(stored);
+    whole = showsWhole(stored);
   });
+  return read && whole;
+}
+
+bool DvrPanel::showsWhole(const StoredAction& stored) const {
+  return standsFor(cmbDVRUnit, stored.recorder, read_.units) &&
+         standsFor(cmbDVRCamera, stored.camera, read_.cameras) &&
+         standsFor(cmbDVRCameraPresets, stored.preset, read_.presets, true) &&
+         standsFor(cmbDVRViewGroups, stored.viewGroup, read_.viewGroups) &&
+         standsFor(cmbCommandSet, stored.commandSet, read_.commandSets);
 }
 
 void DvrPanel::showNew() {
@@ -116,7 +129,7 @@ void DvrPanel::showStored(const StoredAction& stored) {
 }
 
 void DvrPanel::LoadDVRUnitCombo(ComboBox& combo) {
-  guarded(module_, "frmTriggerAction.LoadDVRUnitCombo", [&] {
+  read_.units = guarded(module_, "frmTriggerAction.LoadDVRUnitCombo", [&] {
     {
       const FlagWhile loading(m_bLoadingDVRUnits);
       RecordSet rows = module_.DBConnection()->open("select ID, DVRName from DVR_Config");
@@ -129,6 +142,7 @@ void DvrPanel::LoadDVRUnitCombo(ComboBox& combo) {
 void DvrPanel::cmbDVRUnit_Click() {
   guarded(module_, "frmTriggerAction.cmbDVRUnit_Click", [this] {
     if (m_bLoadingDVRUnits || cmbDVRUnit.listIndex() < 0) return;
+    const HourglassPointer hourglass(module_.screen());
     const std::int32_t recorderId = cmbDVRUnit.selectedData();
     LoadDVRCameraCombo(cmbDVRCamera, recorderId);
     LoadCommandSetCombo(cmbCommandSet);
@@ -137,9 +151,10 @@ void DvrPanel::cmbDVRUnit_Click() {
 }
 
 void DvrPanel::LoadDVRCameraCombo(ComboBox& combo, std::int32_t recorderId) {
-  guarded(module_, "frmTriggerAction.LoadDVRCameraCombo", [&] {
+  read_.cameras = guarded(module_, "frmTriggerAction.LoadDVRCameraCombo", [&] {
     combo.clear();
     cmbDVRCameraPresets.clear();
+    read_.presets = true;
     RecordSet rows = module_.DBConnection()->open(
         "select CameraIndex, CameraName from DVR_Cameras where ID_DVR_Config = " +
         std::to_string(recorderId) + " order by CameraIndex");
@@ -150,6 +165,7 @@ void DvrPanel::LoadDVRCameraCombo(ComboBox& combo, std::int32_t recorderId) {
 
 void DvrPanel::cmbDVRCamera_Click() {
   guarded(module_, "frmTriggerAction.cmbDVRCamera_Click", [this] {
+    const HourglassPointer hourglass(module_.screen());
     LoadDVRCameraPresets(cmbDVRUnit.selectedData(), cmbDVRCameraPresets,
                          cmbDVRCamera.selectedData());
   });
@@ -157,7 +173,7 @@ void DvrPanel::cmbDVRCamera_Click() {
 
 void DvrPanel::LoadDVRCameraPresets(std::int32_t recorderId, ComboBox& combo,
                                     std::int32_t cameraIndex) {
-  guarded(module_, "frmTriggerAction.LoadDVRCameraPresets", [&] {
+  read_.presets = guarded(module_, "frmTriggerAction.LoadDVRCameraPresets", [&] {
     combo.clear();
     combo.addItem(module_.GRS(noPresetText), 0);
     RecordSet rows = module_.DBConnection()->open(
@@ -171,10 +187,9 @@ void DvrPanel::LoadDVRCameraPresets(std::int32_t recorderId, ComboBox& combo,
 
 void DvrPanel::ConfigureFormByVendor(std::int32_t recorderId) {
   guarded(module_, "frmTriggerAction.ConfigureFormByVendor", [&] {
-    vendorType_ = 0;
     RecordSet rows =
         module_.DBConnection()->open("EXECUTE DVR_Getvendorinfo " + std::to_string(recorderId));
-    if (rows.next()) vendorType_ = rows.int16("DVRVendorID");
+    vendorType_ = rows.next() ? rows.int16("DVRVendorID") : std::int16_t{0};
     rows.close();
     const bool takesDuration = vendorType_ != vendorWithoutDuration;
     txtDVRAlarmDuration.setEnabled(takesDuration);
@@ -185,7 +200,7 @@ void DvrPanel::ConfigureFormByVendor(std::int32_t recorderId) {
 }
 
 void DvrPanel::LoadCommandSetCombo(ComboBox& combo) {
-  guarded(module_, "frmTriggerAction.LoadCommandSetCombo", [&] {
+  read_.commandSets = guarded(module_, "frmTriggerAction.LoadCommandSetCombo", [&] {
     combo.clear();
     combo.addItem("<None>", 0);
     const std::int32_t operatorId = module_.NTConnection()->OperatorID();
@@ -199,7 +214,7 @@ void DvrPanel::LoadCommandSetCombo(ComboBox& combo) {
 }
 
 void DvrPanel::LoadDVRVideoExplorerGroups(ComboBox& combo) {
-  guarded(module_, "frmTriggerAction.LoadDVRVideoExplorerGroups", [&] {
+  read_.viewGroups = guarded(module_, "frmTriggerAction.LoadDVRVideoExplorerGroups", [&] {
     combo.clear();
     combo.addItem(module_.GRS(noViewGroupText), 0);
     RecordSet rows = module_.DBConnection()->open(

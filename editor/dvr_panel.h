@@ -44,8 +44,9 @@ class DvrPanel {
   const RecordRateTable& rates() const noexcept { return rates_; }
   void InitRecordRateTable() { rates_.InitRecordRateTable(); }
 
-  // Fills the panel and shows the stored action, or the values of a new one.
-  void LoadDVRAction(std::int32_t actionId);
+  // Fills the panel and shows the stored action, or the values of a new one. False when something
+  // of the stored action that would be saved again could not be read.
+  bool LoadDVRAction(std::int32_t actionId);
   void LoadDVRUnitCombo(ComboBox& combo);
   void LoadDVRCameraCombo(ComboBox& combo, std::int32_t recorderId);
   void LoadDVRCameraPresets(std::int32_t recorderId, ComboBox& combo, std::int32_t cameraIndex);
@@ -63,13 +64,23 @@ class DvrPanel {
 
  private:
   struct StoredAction;
+  // Whether each list was read to its end when it was last filled.
+  struct ListsRead {
+    bool units = true;
+    bool cameras = true;
+    bool presets = true;
+    bool viewGroups = true;
+    bool commandSets = true;
+  };
 
+  bool showsWhole(const StoredAction& stored) const;
   void showStored(const StoredAction& stored);
   void showNew();
 
   Module1& module_;
   RecordRateTable rates_;
   std::int16_t vendorType_ = 0;
+  ListsRead read_;
   bool m_bLoadingDVRUnits = false;
 };
 

@@ -10,8 +10,11 @@ struct EditorState {
   std::int16_t m_ActionDeviceClass = 0;  // read in edit mode only
   std::int32_t m_ActionID = 0;
   bool m_bVn8HardwareSupport = false;
-  // The edited trigger could not be read whole: writing what the controls hold would destroy it.
+  // Something that the save of the edited trigger would write could not be read: what the controls
+  // hold would destroy what is stored.
   bool halfRead = false;
+  // The window is gone; what is still at work behind it comes to its end.
+  bool closed = false;
 
   bool addMode() const noexcept { return m_TriggerID < 1; }
 };

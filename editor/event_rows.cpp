@@ -1,5 +1,7 @@
 #include "editor/event_rows.h"
 
+#include <string>
+#include <unordered_set>
 #include <utility>
 
 #include "common/value.h"
@@ -10,6 +12,21 @@ namespace {
 
 double numberOf(const ListItem& row) {
   return row.subItems.empty() ? 0 : parseNumber(row.subItems.front());
+}
+
+using Numbers = std::unordered_set<std::string>;
+
+const std::string& numberTextOf(const ListItem& row) {
+  return row.subItems.front();
+}
+
+Numbers checkedNumbers(const ListView& events, std::int32_t origin) {
+  Numbers checked;
+  for (int index = 1; index <= events.count(); ++index) {
+    const ListItem& row = events.item(index);
+    if (row.checked && row.tag.empty() && row.data == origin) checked.insert(numberTextOf(row));
+  }
+  return checked;
 }
 
 }  // namespace
@@ -29,6 +46,39 @@ void EventRowMerge::add(std::int32_t eventId, ListItem row) {
 
 void EventRowMerge::finish() {
   events_.insert(std::exchange(rows_, {}));
+}
+
+std::int32_t RowOrigin::packed() const noexcept {
+  return std::int32_t{category} * 0x10000 + std::int32_t{record};
+}
+
+RowOrigin RowOrigin::of(const ListItem& row) noexcept {
+  const auto record = static_cast<std::uint16_t>(row.data & 0xFFFF);
+  return {static_cast<std::int16_t>((row.data - record) / 0x10000), record};
+}
+
+bool CategoryRows::holds(const ListItem& row) const {
+  if (row.text.empty()) return false;
+  if (row.tag.empty() && RowOrigin::of(row).category != number) return false;
+  return row.text == type || row.text == prefix;
+}
+
+void relistRecord(ListView& events, RowOrigin origin, std::vector<EventRow> rows, bool whole) {
+  const std::int32_t data = origin.packed();
+  const Numbers checked = checkedNumbers(events, data);
+  Numbers again;
+  for (EventRow& row : rows) {
+    row.row.data = data;
+    row.row.checked = checked.contains(numberTextOf(row.row));
+    again.insert(numberTextOf(row.row));
+  }
+  events.removeIf([&](const ListItem& row) {
+    if (!row.tag.empty() || row.data != data) return false;
+    return whole || again.contains(numberTextOf(row));
+  });
+  EventRowMerge merge(events);
+  for (EventRow& row : rows) merge.add(row.eventId, std::move(row.row));
+  merge.finish();
 }
 
 }  // namespace pelorin

@@ -3,57 +3,26 @@
 #include <optional>
 #include <utility>
 
-#include "catalog/event_text.h"
 #include "common/combo_helpers.h"
 #include "common/guard.h"
-#include "controls/text_key.h"
-#include "editor/flag_while.h"
+#include "controls/flag_while.h"
+#include "editor/event_query.h"
 
 namespace pelorin {
 
 namespace {
 
 constexpr std::int32_t lastOrdinaryCategory = 7;
+constexpr const char* loadName = "Error: LoadEventsByFilterType(): ";
 
-bool isIntegrated(const EventTypeInfo& type) {
-  return equalNoCase(type.TableName, "integratedevents");
-}
-
-std::string eventsQuery(const EventTypeInfo& type) {
-  if (isIntegrated(type)) return "exec pav_FetchInstalledIntegratedEvents";
-  return "select EventId, Description, DefaultDescription from " + type.TableName +
-         " where EventID >= " + numberText(type.MinEventID) +
-         " and EventID <= " + numberText(type.MaxEventID) + " order by EventID";
-}
-
-// Placeholders of the event tables are never offered.
-bool isPlaceholder(const RecordSet& row) {
-  constexpr std::string_view mark = "Undefined";
-  return equalNoCase(row.text("Defaultdescription").substr(0, mark.size()), mark);
-}
-
-ListItem eventRow(const EventTypeInfo& type, const std::string& number, const std::string& text) {
+ListItem eventRow(const EventTypeInfo& type, const ListedEvent& event) {
   ListItem row;
   row.text = type.FilterType;
-  row.subItems = {number, text};
-  row.data = type.FilterIndex;
+  row.subItems = {event.number, event.text};
   return row;
 }
 
 }  // namespace
-
-// Whose rows a category's are. Two categories can show the same type text: an ordinary row belongs
-// to the one it was loaded for.
-struct EventSelection::Category {
-  std::int16_t number;
-  std::string type;
-  std::string prefix;
-
-  bool holds(const ListItem& row) const {
-    if (row.text.empty() || (row.tag.empty() && row.data != number)) return false;
-    return row.text == type || row.text == prefix;
-  }
-};
 
 EventSelection::EventSelection(Module1& module, EventCatalogue& catalogue, const EditorState& state,
                                TriggerLocations& locations, TabControl& tabs, int page)
@@ -85,28 +54,38 @@ std::vector<Control*> EventSelection::controls() {
           &fraEditOverlay,  &lblEvent,  &cmbEvents};
 }
 
-void EventSelection::InitTriggerTab(const std::string& locationText, std::int32_t eventId) {
+bool EventSelection::InitTriggerTab(const std::string& locationText, std::int32_t eventId) {
+  bool whole = false;
   guarded(module_, "frmTriggerAction.InitTriggerTab", [&] {
     if (!catalogue_.loaded()) catalogue_.InitEventTypeInfoArray();
-    catalogue_.LoadFilterList(lstEventFilters);
+    const bool filtersRead = catalogue_.LoadFilterList(lstEventFilters);
     cmdSelectAll.setEnabled(false);
     cmdDeselectAll.setEnabled(false);
     locations_.showSingle(!state_.addMode());
     ShowEditOverlay(!state_.addMode());
     if (state_.addMode()) return;
-    tickCategoryOf(eventId);
+    const bool categoryRead = tickCategoryOf(eventId);
     SelectComboItemByData(cmbEvents, eventId);
+    if (!selectsEvent(eventId)) loadMissedRecordOf(eventId);
     locations_.txtLocation.setText(locationText);
+    const bool listRead = catalogue_.loaded() && filtersRead && categoryRead && eventsRead_;
+    whole = listRead || selectsEvent(eventId);
   });
+  return whole;
 }
 
-void EventSelection::tickCategoryOf(std::int32_t eventId) {
-  const std::int16_t category = catalogue_.GetFilterIndexByEventID(eventId);
+bool EventSelection::selectsEvent(std::int32_t eventId) const {
+  return cmbEvents.listIndex() >= 0 && cmbEvents.selectedData() == eventId;
+}
+
+bool EventSelection::tickCategoryOf(std::int32_t eventId) {
+  const std::optional<std::int16_t> category = catalogue_.findFilter(eventId);
   for (int row = 0; row < lstEventFilters.listCount(); ++row) {
-    if (lstEventFilters.row(row).itemData != category) continue;
+    if (lstEventFilters.row(row).itemData != category.value_or(0)) continue;
     lstEventFilters.setSelected(row, true);
-    return;
+    break;
   }
+  return category.has_value();
 }
 
 void EventSelection::ShowEditOverlay(bool visible) {
@@ -115,15 +94,24 @@ void EventSelection::ShowEditOverlay(bool visible) {
   place.top = lvwEvents.place().top;
   fraEditOverlay.setPlace(place);
   fraEditOverlay.setVisible(visible);
-  // What the overlay covers must not be reached with the keyboard behind it.
-  lvwEvents.setVisible(!visible);
-  cmdSelectAll.setVisible(!visible);
-  cmdDeselectAll.setVisible(!visible);
+  lvwEvents.setCovered(visible);
+  cmdSelectAll.setCovered(visible);
+  cmdDeselectAll.setCovered(visible);
 }
 
+// A host that pumps messages while a category is read lets another click through: it is answered
+// when the one before it has been, so that no event is listed by both.
 void EventSelection::lstEventFilters_Click() {
   if (m_bRetickingFilter) return;
+  clicked_ = true;
+  if (filtering_) return;
+  const FlagWhile filtering(filtering_);
+  while (std::exchange(clicked_, false) && !state_.closed) filter();
+}
+
+void EventSelection::filter() {
   guarded(module_, "frmTriggerAction.lstEventFilters_Click", [this] {
+    const HourglassPointer hourglass(module_.screen());
     if (state_.addMode()) {
       filterForNew();
     } else {
@@ -134,88 +122,120 @@ void EventSelection::lstEventFilters_Click() {
 }
 
 void EventSelection::filterForNew() {
-  for (int row = 0; row < lstEventFilters.listCount(); ++row) {
+  for (int row = 0; row < lstEventFilters.listCount() && !state_.closed; ++row) {
     if (lstEventFilters.selected(row)) {
       LoadEventsByFilterType(lvwEvents, cmbEvents, row);
       zornEvents_.ZornDisplayFilteredEvents(lvwEvents, cmbEvents,
                                             lstEventFilters.row(row).itemData);
-      continue;
+    } else if (keepTicked(row)) {
+      const FlagWhile reticking(m_bRetickingFilter);
+      lstEventFilters.setSelected(row, true);
     }
-    bool unloaded = false;
-    UnLoadListEventsByFilterType(lvwEvents, row, unloaded);
-    if (unloaded) continue;
-    const FlagWhile reticking(m_bRetickingFilter);
-    lstEventFilters.setSelected(row, true);
   }
+}
+
+bool EventSelection::keepTicked(int filterRow) {
+  bool unloaded = false;
+  UnLoadListEventsByFilterType(lvwEvents, filterRow, unloaded);
+  return !unloaded;
 }
 
 void EventSelection::filterForEdit() {
   const std::int32_t chosen = cmbEvents.listIndex() < 0 ? 0 : cmbEvents.selectedData();
   cmbEvents.clear();
   catalogue_.ClearAllEventsLoaded(lstEventFilters);
-  for (int row = 0; row < lstEventFilters.listCount(); ++row) {
-    if (!lstEventFilters.selected(row)) continue;
-    const std::int32_t category = lstEventFilters.row(row).itemData;
-    if (category <= lastOrdinaryCategory) {
-      LoadEventsByFilterType(lvwEvents, cmbEvents, row);
-    } else {
-      zornEvents_.ZornDisplayFilteredEvents(lvwEvents, cmbEvents, category);
-    }
+  eventsRead_ = true;
+  missed_.clear();
+  for (int row = 0; row < lstEventFilters.listCount() && !state_.closed; ++row) {
+    if (lstEventFilters.selected(row) && !listForEdit(row)) eventsRead_ = false;
   }
-  if (chosen > 0) SelectComboItemByData(cmbEvents, chosen);
+  if (chosen <= 0) return;
+  SelectComboItemByData(cmbEvents, chosen);
+  if (!selectsEvent(chosen)) loadMissedRecordOf(chosen);
 }
 
-void EventSelection::LoadEventsByFilterType(ListView& events, ComboBox& combo, int filterRow) {
-  guarded(module_, "Error: LoadEventsByFilterType(): ", [&] {
-    const std::int32_t category = lstEventFilters.row(filterRow).itemData;
-    const bool fromCache = state_.addMode() && isZornCategory(category);
-    for (std::size_t index = 0; !fromCache && index < catalogue_.types().size(); ++index) {
-      const EventTypeInfo& type = catalogue_.types()[index];
-      if (type.TableName.empty() || type.FilterIndex != category || type.EventsLoaded) continue;
-      loadType(events, combo, index);
+bool EventSelection::listForEdit(int filterRow) {
+  const std::int32_t category = lstEventFilters.row(filterRow).itemData;
+  if (category <= lastOrdinaryCategory) {
+    return LoadEventsByFilterType(lvwEvents, cmbEvents, filterRow);
+  }
+  zornEvents_.ZornDisplayFilteredEvents(lvwEvents, cmbEvents, category);
+  return zornEventsRead_;
+}
+
+bool EventSelection::LoadEventsByFilterType(ListView& events, ComboBox& combo, int filterRow) {
+  std::int32_t category = 0;
+  std::size_t index = 0;
+  const bool read = guarded(module_, loadName, [&] {
+    category = lstEventFilters.row(filterRow).itemData;
+    if (state_.addMode() && isZornCategory(category)) return enableSelectButtons(events);
+    for (; index < catalogue_.types().size(); ++index) {
+      if (hasToBeListed(index, category)) loadType(events, combo, index);
     }
     enableSelectButtons(events);
+  });
+  while (!read && ++index < catalogue_.types().size()) {
+    if (hasToBeListed(index, category)) missed_.push_back(index);
+  }
+  return read;
+}
+
+bool EventSelection::hasToBeListed(std::size_t index, std::int32_t category) const {
+  const EventTypeInfo& type = std::as_const(catalogue_).types()[index];
+  return !type.TableName.empty() && type.FilterIndex == category && !type.EventsLoaded;
+}
+
+// A table that cannot be read ends the listing of its category; the edited event may be in another
+// one of it.
+void EventSelection::loadMissedRecordOf(std::int32_t eventId) {
+  guarded(module_, loadName, [&] {
+    const std::vector<std::size_t> missed = std::exchange(missed_, {});
+    for (const std::size_t index : missed) {
+      if (index >= catalogue_.types().size()) return;
+      const EventTypeInfo& type = catalogue_.types()[index];
+      if (eventId < type.MinEventID || eventId > type.MaxEventID) continue;
+      loadType(lvwEvents, cmbEvents, index);
+      return SelectComboItemByData(cmbEvents, eventId);
+    }
   });
 }
 
 // The catalogue is looked up anew after each call to the outside, which may have filled it again.
 void EventSelection::loadType(ListView& events, ComboBox& combo, std::size_t index) {
   const EventTypeInfo type = catalogue_.types()[index];
+  const RowOrigin origin{type.FilterIndex, static_cast<std::uint16_t>(index)};
   RecordSet rows = module_.DBConnection()->open(eventsQuery(type));
   if (!rows.next()) {
+    relistRecord(events, origin, {}, true);
     module_.screen().messageBox({"There are no events in this category"});
     return;
   }
-  EventRowMerge merge(events);
-  const std::optional<RunTimeError> error = errorOf([&] { listRows(type, rows, merge, combo); });
-  merge.finish();
-  if (error) throw RunTimeError(*error);
+  std::vector<EventRow> read;
+  const std::exception_ptr error = exceptionOf([&] { readRows(type, rows, read, combo); });
+  relistRecord(events, origin, std::move(read), error == nullptr);
+  if (error) std::rethrow_exception(error);
   rows.close();
-  if (index < catalogue_.types().size()) catalogue_.types()[index].EventsLoaded = true;
+  if (state_.closed || index >= catalogue_.types().size()) return;
+  catalogue_.types()[index].EventsLoaded = true;
 }
 
-void EventSelection::listRows(const EventTypeInfo& type, RecordSet& rows, EventRowMerge& merge,
-                              ComboBox& combo) {
-  const bool customised = module_.NTConnection()->EnableCustomize();
+void EventSelection::readRows(const EventTypeInfo& type, RecordSet& rows,
+                              std::vector<EventRow>& read, ComboBox& combo) {
   const bool listed =
       state_.addMode() && !(type.DisplayName == "Alarm Events" && isIntegrated(type));
-  do {
-    if (isPlaceholder(rows)) continue;
-    const std::int32_t eventId = rows.int32("EventID");
-    const std::string number = eventNumberText(eventId);
-    const std::string text = eventText(rows, customised);
-    if (listed) merge.add(eventId, eventRow(type, number, text));
-    if (!state_.addMode()) combo.addItem(number + " - " + text, eventId);
-  } while (rows.next());
+  takeEvents(module_, rows, [&](const ListedEvent& event) {
+    if (listed) read.push_back({event.id, eventRow(type, event)});
+    if (!state_.addMode()) combo.addItem(event.number + " - " + event.text, event.id);
+  });
 }
 
 void EventSelection::UnLoadListEventsByFilterType(ListView& events, int filterRow, bool& unloaded) {
   unloaded = false;
   guarded(module_, "frmTriggerAction.UnLoadListEventsByFilterType", [&] {
     const std::int16_t number = narrowInt16(lstEventFilters.row(filterRow).itemData);
-    const Category category{number, catalogue_.GetFilterTypeByFilterIndex(number),
-                            GetFilterListPrefix(filterRow)};
-    if (keepsChosen(events, category)) return;
+    const CategoryRows category{number, catalogue_.GetFilterTypeByFilterIndex(number),
+                                GetFilterListPrefix(filterRow)};
+    if (keepsChosen(events, category) || state_.closed) return;
     if (!isZornCategory(number)) {
       events.removeIf([&](const ListItem& row) { return row.tag.empty() && category.holds(row); });
     }
@@ -226,7 +246,7 @@ void EventSelection::UnLoadListEventsByFilterType(ListView& events, int filterRo
   });
 }
 
-bool EventSelection::keepsChosen(const ListView& events, const Category& category) {
+bool EventSelection::keepsChosen(const ListView& events, const CategoryRows& category) {
   for (int index = events.count(); index >= 1; --index) {
     const ListItem& row = events.item(index);
     if (!row.checked || !category.holds(row)) continue;

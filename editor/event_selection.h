@@ -39,34 +39,43 @@ class EventSelection {
 
   std::vector<Control*> controls();
 
-  // Prepares the trigger tab for the state's mode; in edit mode it shows this location and event.
-  void InitTriggerTab(const std::string& locationText, std::int32_t eventId);
-  // Puts the one event of edit mode in the place of the list.
+  // Prepares the trigger tab for the state's mode; in edit mode it shows this location and event,
+  // and is false when the event is not selected because something could not be read.
+  bool InitTriggerTab(const std::string& locationText, std::int32_t eventId);
+  // Puts the one event of edit mode in front of the list and its buttons.
   void ShowEditOverlay(bool visible);
-  void ZornLoadEventCache() { zornEvents_.ZornLoadEventCache(); }
+  void ZornLoadEventCache() { zornEventsRead_ = zornEvents_.ZornLoadEventCache(); }
 
   void lstEventFilters_Click();
   // Button 0 checks every row, 1 none.
   void cmdSelect_Click(int button);
 
-  // Lists the events of the category in row `filterRow` that are not listed yet.
-  void LoadEventsByFilterType(ListView& events, ComboBox& combo, int filterRow);
+  // Lists the events of the category in row `filterRow` that are not listed yet. False when an
+  // error ended it; what was listed before stays.
+  bool LoadEventsByFilterType(ListView& events, ComboBox& combo, int filterRow);
   // `unloaded` is false when the operator keeps the chosen events.
   void UnLoadListEventsByFilterType(ListView& events, int filterRow, bool& unloaded);
   std::string GetFilterListPrefix(int filterRow) const;
 
+  // In edit mode: no event is selected, and one that the list should hold could not be read.
+  bool eventMissing() const noexcept { return cmbEvents.listIndex() < 0 && !eventsRead_; }
   // In list order. Error 6 when a number is too large.
   std::vector<CheckedEvent> checkedEvents() const;
 
  private:
-  struct Category;
-
-  void tickCategoryOf(std::int32_t eventId);
+  bool selectsEvent(std::int32_t eventId) const;
+  bool tickCategoryOf(std::int32_t eventId);
+  void filter();
   void filterForNew();
+  bool keepTicked(int filterRow);
   void filterForEdit();
+  bool listForEdit(int filterRow);
+  bool hasToBeListed(std::size_t index, std::int32_t category) const;
+  void loadMissedRecordOf(std::int32_t eventId);
   void loadType(ListView& events, ComboBox& combo, std::size_t index);
-  void listRows(const EventTypeInfo& type, RecordSet& rows, EventRowMerge& merge, ComboBox& combo);
-  bool keepsChosen(const ListView& events, const Category& category);
+  void readRows(const EventTypeInfo& type, RecordSet& rows, std::vector<EventRow>& read,
+                ComboBox& combo);
+  bool keepsChosen(const ListView& events, const CategoryRows& category);
   void enableSelectButtons(const ListView& events);
 
   Module1& module_;
@@ -74,6 +83,13 @@ class EventSelection {
   const EditorState& state_;
   TriggerLocations& locations_;
   ZornEventCache zornEvents_;
+  bool zornEventsRead_ = false;
+  // Of edit mode: whether the ticked categories were read to their end; and the records of the
+  // catalogue that were not tried because one before them failed.
+  bool eventsRead_ = true;
+  std::vector<std::size_t> missed_;
+  bool filtering_ = false;
+  bool clicked_ = false;
   bool m_bRetickingFilter = false;
 };
 

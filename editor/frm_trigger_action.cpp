@@ -4,7 +4,7 @@
 
 #include "catalog/trigger_store.h"
 #include "common/guard.h"
-#include "editor/flag_while.h"
+#include "controls/flag_while.h"
 
 namespace pelorin {
 
@@ -59,6 +59,7 @@ frmTriggerAction::frmTriggerAction(Module1& module, EventCatalogue& catalogue,
 
 void frmTriggerAction::Form_Load() {
   guarded(module_, "frmTriggerAction.Form_Load", [this] {
+    const HourglassPointer hourglass(module_.screen());
     state_.m_bVn8HardwareSupport = module_.NTConnection()->ZornIsVn8HardwareSupportEnabled();
     events_.ZornLoadEventCache();
     InitForm();
@@ -68,14 +69,15 @@ void frmTriggerAction::Form_Load() {
 void frmTriggerAction::InitForm() {
   guarded(module_, "frmTriggerAction.InitForm", [this] {
     TriggerData data;
-    bool whole = true;
     classes_.cmbActionDeviceClass.setEnabled(state_.addMode());
     setCaption(state_.addMode() ? "Add Trigger Action" : "Edit Trigger Action");
-    if (!state_.addMode()) whole = readTrigger(data);
-    const unsigned reports = module_.reportCount();
-    events_.InitTriggerTab(data.address, data.eventId);
-    whole = whole && module_.reportCount() == reports;
-    whole = InitActionTab(data.actionId, data.deviceClassId) && whole;
+    const bool triggerRead = state_.addMode() || readTrigger(data);
+    const bool eventRead = events_.InitTriggerTab(data.address, data.eventId);
+    const bool actionRead = InitActionTab(data.actionId, data.deviceClassId);
+    // A trigger that is not there any more, or of a foreign class, is not saved anyway.
+    const bool saved =
+        data.deviceClassId == device_class::cctv || data.deviceClassId == device_class::dvr;
+    const bool whole = triggerRead && (!saved || (eventRead && actionRead));
     state_.halfRead = !state_.addMode() && !whole;
   });
 }
@@ -98,26 +100,29 @@ bool frmTriggerAction::InitActionTab(std::int32_t actionId, std::int32_t deviceC
     dvrPlace.top = cctvPlace.top;
     dvr_.fraDVRAction.setPlace(dvrPlace);
     cctv_.layOut();
-    classes_.LoadDeviceClassCombo(classes_.cmbActionDeviceClass);
+    const bool classesRead = classes_.LoadDeviceClassCombo(classes_.cmbActionDeviceClass);
     dvr_.InitRecordRateTable();
-    const unsigned atStart = module_.reportCount();
-    dvr_.LoadDVRAction(actionId);
-    const unsigned afterDvr = module_.reportCount();
-    cctv_.LoadCCTVAction(actionId);
-    const unsigned atEnd = module_.reportCount();
-    whole = deviceClass == device_class::cctv ? afterDvr == atEnd : atStart == afterDvr;
-    if (state_.addMode()) {
-      classes_.DisplayDeviceAction(classes_.selectedClass());
-      return;
-    }
-    // A class that the combo does not offer leaves nothing selected, and nothing to save.
-    classes_.cmbActionDeviceClass.setListIndex(-1);
-    classes_.DisplayDeviceAction(deviceClass);
+    const bool dvrRead = dvr_.LoadDVRAction(actionId);
+    const bool cctvRead = cctv_.LoadCCTVAction(actionId);
+    showAction(deviceClass);
+    const bool classStands = classesRead || classes_.selectedClass() == deviceClass;
+    whole = classStands && (deviceClass == device_class::cctv ? cctvRead : dvrRead);
   });
   return whole;
 }
 
+void frmTriggerAction::showAction(std::int32_t deviceClass) {
+  if (state_.addMode()) {
+    classes_.DisplayDeviceAction(classes_.selectedClass());
+    return;
+  }
+  // A class that the combo does not offer leaves nothing selected, and nothing to save.
+  classes_.cmbActionDeviceClass.setListIndex(-1);
+  classes_.DisplayDeviceAction(deviceClass);
+}
+
 void frmTriggerAction::Form_Unload() {
+  state_.closed = true;
   guarded(module_, "frmTriggerAction.Form_Unload",
           [this] { catalogue_.ClearAllEventsLoaded(events_.lstEventFilters); });
 }

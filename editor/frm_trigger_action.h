@@ -46,8 +46,9 @@ class frmTriggerAction : public Form, public LocationTarget {
  private:
   void InitForm();
   bool readTrigger(TriggerData& data);
-  // Whether the action of a trigger of this class was read whole.
+  // False when something of a trigger of this class that would be saved again could not be read.
   bool InitActionTab(std::int32_t actionId, std::int32_t deviceClass);
+  void showAction(std::int32_t deviceClass);
 
   Module1& module_;
   EventCatalogue& catalogue_;

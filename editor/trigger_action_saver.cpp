@@ -57,15 +57,35 @@ TriggerActionSaver::TriggerActionSaver(Module1& module, EventCatalogue& catalogu
 
 bool TriggerActionSaver::SaveTriggerAction() {
   bool saved = false;
+  progress_ = {};
   guarded(module_, "frmTriggerAction.SaveTriggerAction", [&] {
-    if (state_.halfRead) return;
     const std::int32_t deviceClass = panels_.classes.selectedClass();
+    if (!readWhole(deviceClass)) return;
     if (deviceClass == device_class::dvr) saved = SaveDVRTriggerAction();
     if (deviceClass == device_class::cctv) saved = SaveCCTVTriggerAction();
+    if (state_.closed && progress_.planned > 0) endWithoutWindows();
     // Failing from here on leaves the rows standing: a second save would write them twice.
     if (saved) reloadSummary_();
   });
   return saved;
+}
+
+bool TriggerActionSaver::readWhole(std::int32_t deviceClass) {
+  const bool updates = !state_.addMode() && deviceClass != 0;
+  if (!state_.halfRead && !(updates && panels_.events.eventMissing())) return true;
+  module_.inform("Cannot save trigger. It could not be read completely.");
+  return false;
+}
+
+void TriggerActionSaver::plan(std::size_t locations, const Events& events) {
+  progress_.planned = locations * events.size();
+}
+
+// Nobody sees any more what became of it.
+void TriggerActionSaver::endWithoutWindows() {
+  module_.LogError("frmTriggerAction.SaveTriggerAction: The editor was closed during the save; " +
+                   std::to_string(progress_.written) + " of " + std::to_string(progress_.planned) +
+                   " trigger actions were written.");
 }
 
 bool TriggerActionSaver::SaveCCTVTriggerAction() {
@@ -89,17 +109,21 @@ bool TriggerActionSaver::updateCctv(const CctvValues& values) {
   if (!eventChosen()) return false;
   const std::string locationText = panels_.locations.txtLocation.text();
   const std::int32_t eventId = panels_.events.cmbEvents.selectedData();
+  progress_.planned = 1;
   module_.DBConnection()->execute(
       "exec CCTV_Update_TA " + numberText(state_.m_TriggerID) + ", " +
       cctvArguments(values, eventId, FirstWord(locationText), locationText));
+  ++progress_.written;
   announce("Update", state_.m_TriggerID, eventId, audit::updated);
   return true;
 }
 
 void TriggerActionSaver::insertCctv(const CctvValues& values) {
   const Events events = panels_.events.checkedEvents();
+  const std::vector<std::string> locations = panels_.locations.listed();
+  plan(locations.size(), events);
   const bool returnToNormal = panels_.cctv.chkCCTVAutoRTNTriggers.checked();
-  for (const std::string& locationText : panels_.locations.listed()) {
+  for (const std::string& locationText : locations) {
     require(InsertCCTVTriggerActionForThisLocation(FirstWord(locationText), locationText, values,
                                                    returnToNormal, events));
   }
@@ -112,7 +136,9 @@ bool TriggerActionSaver::InsertCCTVTriggerActionForThisLocation(const std::strin
                                                                 const Events& events) {
   return guarded(module_, "frmTriggerAction.InsertCCTVTriggerActionForThisLocation", [&] {
     for (const CheckedEvent& event : events) {
+      if (state_.closed) return;
       insertCctvRow(address, locationText, values, event.id);
+      ++progress_.written;
       announce("Add", 0, event.id, audit::added);
       const bool returnToNormal = panels_.cctv.chkCCTVAutoRTNTriggers.checked();
       if (!returnToNormal || values.action != cctv_action::raiseAlarm) continue;
@@ -154,6 +180,7 @@ bool TriggerActionSaver::saveDvr() {
 
 // The action row is written before the event is looked at; that order is kept.
 bool TriggerActionSaver::updateDvr(const DvrValues& values) {
+  progress_.planned = 1;
   require(dvrActions_.UpdateDVRAction(state_.m_ActionID, values));
   const std::string address = FirstWord(panels_.locations.txtLocation.text());
   if (!eventChosen()) return false;
@@ -162,14 +189,17 @@ bool TriggerActionSaver::updateDvr(const DvrValues& values) {
                                   ", " + quoted(address) + ", " + numberText(eventId) + ", " +
                                   numberText(state_.m_ActionID) + ", " +
                                   numberText(panels_.classes.selectedClass()));
+  ++progress_.written;
   announce("Update", 0, eventId, audit::updated);
   return true;
 }
 
 void TriggerActionSaver::insertDvr(const DvrValues& values) {
   const Events events = panels_.events.checkedEvents();
+  const std::vector<std::string> locations = panels_.locations.listed();
+  plan(locations.size(), events);
   const std::int32_t deviceClass = panels_.classes.selectedClass();
-  for (const std::string& locationText : panels_.locations.listed()) {
+  for (const std::string& locationText : locations) {
     require(GenerateTriggerActonForEventsAtThisLocation(locationText, values, deviceClass, events));
   }
 }
@@ -180,11 +210,13 @@ bool TriggerActionSaver::GenerateTriggerActonForEventsAtThisLocation(
   return guarded(module_, "frmTriggerAction.GenerateTriggerActonForEventsAtThisLocation", [&] {
     const std::string address = FirstWord(locationText);
     for (const CheckedEvent& event : events) {
+      if (state_.closed) return;
       std::int32_t newActionId = 0;
       require(dvrActions_.AddDVRAction(values, newActionId));
       module_.DBConnection()->execute("pav_AddDeviceTrigger " + quoted(address) + ", " +
                                       event.text + ", " + numberText(newActionId) + ", " +
                                       numberText(deviceClass));
+      ++progress_.written;
       announce(module_.GRS(addedText), newActionId, event.id, audit::added);
     }
   });

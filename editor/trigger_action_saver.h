@@ -33,14 +33,24 @@ class TriggerActionSaver {
                      EditorPanels panels, ReloadSummary reloadSummary);
 
   // True when the rows stand; the summary has then been asked to reload. False after a message or a
-  // report, and without either for a class that cannot be saved or a trigger that was not read
-  // whole.
+  // report, and without either for a class that cannot be saved. When the editor is closed
+  // meanwhile it ends after the trigger in hand; the log then says how far it came.
   bool SaveTriggerAction();
   bool SaveCCTVTriggerAction();
   bool SaveDVRTriggerAction();
 
  private:
   using Events = std::vector<CheckedEvent>;
+
+  struct Progress {
+    std::size_t planned = 0;
+    std::size_t written = 0;
+  };
+
+  bool readWhole(std::int32_t deviceClass);
+  // Plans a trigger action per location and event.
+  void plan(std::size_t locations, const Events& events);
+  void endWithoutWindows();
 
   bool saveCctv();
   bool updateCctv(const CctvValues& values);
@@ -70,6 +80,7 @@ class TriggerActionSaver {
   EditorPanels panels_;
   ReloadSummary reloadSummary_;
   DvrActionStore dvrActions_;
+  Progress progress_;
 };
 
 }  // namespace pelorin

@@ -9,14 +9,21 @@
 
 namespace pelorin {
 
-void ZornEventCache::ZornLoadEventCache() {
-  guarded(module_, "frmTriggerAction.ZornLoadEventCache", [this] {
+namespace {
+
+// Their numbers are those between 80000 and 90000. A view in the table's place can count anything.
+constexpr std::int32_t mostZornEvents = 10000;
+
+}  // namespace
+
+bool ZornEventCache::ZornLoadEventCache() {
+  return guarded(module_, "frmTriggerAction.ZornLoadEventCache", [this] {
     m_ZornEventCache.clear();
     RecordSet count =
         module_.DBConnection()->open("select count(EventID) from Zorn_EventDefinitions");
     const std::int32_t expected = count.next() ? count.int32(0) : 0;
     count.close();
-    m_ZornEventCache.reserve(static_cast<std::size_t>(std::max(expected, 0)));
+    m_ZornEventCache.reserve(static_cast<std::size_t>(std::clamp(expected, 0, mostZornEvents)));
     readEvents();
   });
 }

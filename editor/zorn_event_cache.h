@@ -23,7 +23,8 @@ class ZornEventCache {
  public:
   explicit ZornEventCache(Module1& module) noexcept : module_(module) {}
 
-  void ZornLoadEventCache();
+  // False when an error ended it; the events read before stay.
+  bool ZornLoadEventCache();
   // Adds the category's events to the combo, and those that are not shown yet to the end of the
   // list.
   void ZornDisplayFilteredEvents(ListView& events, ComboBox& combo, std::int32_t category);

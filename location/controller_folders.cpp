@@ -74,9 +74,9 @@ void ControllerFolders::AddControllerFolders(std::uint8_t controllerType, std::i
                                              TreeNode& controller) {
   nodes_.building("AddControllerFolders", [&] {
     for (const Folder& folder : foldersOf(controllerType)) {
-      AddFolderInfo(
-          nodes_.add(&controller, {folder.prefix + numberText(std::int64_t{controllerId}),
-                                   folder.text, "", node_image::folder, node_image::openFolder}));
+      AddFolderInfo(nodes_.add(
+          &controller,
+          folderTexts(folder.prefix + numberText(std::int64_t{controllerId}), folder.text)));
     }
   });
 }

@@ -24,7 +24,11 @@ constexpr int helpButton = 2;
 constexpr const char* noLocation = "<None>";
 constexpr std::int16_t helpTopic = 178;
 constexpr std::int16_t formNumber = 85;
-constexpr std::int32_t invalidPicture = 481;
+
+// Keys that move the selection.
+bool movesOn(int keyCode) {
+  return keyCode >= key_code::pageUp && keyCode <= key_code::down;
+}
 
 std::string buttonName(int index) {
   return "cmdMain(" + std::to_string(index) + ")";
@@ -33,7 +37,7 @@ std::string buttonName(int index) {
 }  // namespace
 
 FLocation::FLocation(Module1& module)
-    : Form("FLocation", "Select Locations", designClient),
+    : Form("FLocation", designCaption, designClient),
       Label1("Label1", designLayout().label1, "Double-click to add location to list"),
       lbllocationLabel("lbllocationLabel", designLayout().locationLabel, "Location:"),
       lblLocation("lblLocation", designLayout().location, noLocation),
@@ -59,6 +63,9 @@ FLocation::FLocation(Module1& module)
 void FLocation::connectEvents() {
   tvTree.onNodeClick = [this](TreeNode& node) { tvTree_NodeClick(node); };
   tvTree.onDoubleClick = [this] { tvTree_DblClick(); };
+  tvTree.onKeyPress = [this](char32_t key) {
+    if (key >= U' ') m_Search.typed(module_.environment().milliseconds());
+  };
   lblLocation.onClick = [this] { lblLocation_Click(); };
   for (int index : {okButton, closeButton, helpButton}) {
     cmdMain[static_cast<std::size_t>(index)].onClick = [this, index] { cmdMain_Click(index); };
@@ -71,12 +78,18 @@ void FLocation::setMode(const std::string& mode) {
   m_LocationMode = equalNoCase(mode, "singlelocation") ? singleMode : multiMode;
 }
 
-LocationTarget& FLocation::parent() const {
-  if (m_Parent == nullptr) {
-    throw RunTimeError(error_number::objectNotSet,
-                       "Object variable or With block variable not set");
+void FLocation::setParent(LocationTarget& parent) {
+  m_Parent = parent.whileItLives();
+  setLeader(parent.locationOwner());
+}
+
+LocationTarget& FLocation::parent(SourceLine where) const {
+  const std::shared_ptr<LocationTarget> target = m_Parent.lock();
+  if (!target) {
+    throw RunTimeError(error_number::objectNotSet, "Object variable or With block variable not set",
+                       where.line());
   }
-  return *m_Parent;
+  return *target;
 }
 
 // A step that fails is reported and does not keep the window from opening. The report's box lets
@@ -87,6 +100,7 @@ void FLocation::loadStep(const std::function<void()>& work) {
 
 void FLocation::Form_Load() {
   const HourglassPointer hourglass(module_.screen());
+  Form_Resize();
   resetSelection();
   loadStep([this] {
     m_bVn8HardwareSupport = module_.NTConnection()->ZornIsVn8HardwareSupportEnabled();
@@ -106,19 +120,22 @@ void FLocation::resetSelection() {
   m_SelectedNode = nullptr;
   m_AddedCount = 0;
   m_bVn8HardwareSupport = false;
+  m_Search.end();
   lblLocation.setText(noLocation);
   lblLocation.setBold(false);
 }
 
 void FLocation::loadPictures() {
-  ImageStrip strip =
-      cutIntoCells(readBitmap(module_.environment().readFile(m_GraphicsPath + "pcDetail.bmp")));
+  ImageStrip strip = cutIntoCells(withLine(SourceLine::current(), [this] {
+    return module_.environment().readPicture(m_GraphicsPath + "pcDetail.bmp");
+  }));
   const int cells = strip.cells;
   tvTree.setImages(std::move(strip));
   if (cells < node_image::highest) {
-    throw RunTimeError(invalidPicture, "Invalid picture: \"pcDetail.bmp\" has " +
-                                           std::to_string(cells) + " of " +
-                                           std::to_string(node_image::highest) + " pictures");
+    throw RunTimeError(error_number::invalidPicture,
+                       "Invalid picture: \"pcDetail.bmp\" has " + std::to_string(cells) + " of " +
+                           std::to_string(node_image::highest) + " pictures",
+                       __LINE__);
   }
 }
 
@@ -165,8 +182,9 @@ void FLocation::placeControls() {
 void FLocation::Form_Unload() {
   guarded(module_, "FLocation.Form_Unload", [this] {
     module_.screen().setOwner(*this, m_PrevOwner);
-    m_Parent = nullptr;
-    m_bCustomizing = false;
+    m_Parent.reset();
+    setLeader(0);
+    setCustomizing(false);
     Localizer1.setEnabled(false);
   });
 }
@@ -175,14 +193,29 @@ bool FLocation::Form_KeyDown(int keyCode) {
   return guardedOr(module_, "FLocation.Form_KeyDown", false, [&] {
     if (Localizer1.keyDown(keyCode)) return true;
     if (keyCode == key_code::escape) {
-      cmdMain_Click(closeButton);
+      leaveByKey();
       return true;
     }
-    const bool adds = keyCode == key_code::enter || keyCode == key_code::space;
-    if (!adds || m_LocationMode != multiMode || focused() != &tvTree) return false;
-    tvTree.userDoubleClick();
-    return true;
+    return focused() == &tvTree && treeKeyDown(keyCode);
   });
+}
+
+void FLocation::leaveByKey() {
+  if (m_bCustomizing) {
+    Localizer1.end();
+  } else {
+    cmdMain_Click(closeButton);
+  }
+}
+
+bool FLocation::treeKeyDown(int keyCode) {
+  if (movesOn(keyCode)) m_Search.end();
+  const bool searches =
+      keyCode == key_code::space && m_Search.running(module_.environment().milliseconds());
+  const bool adds = keyCode == key_code::enter || keyCode == key_code::space;
+  if (!adds || searches || m_LocationMode != multiMode) return false;
+  tvTree.userDoubleClick();
+  return true;
 }
 
 void FLocation::tvTree_NodeClick(TreeNode& node) {
@@ -239,39 +272,6 @@ void FLocation::acceptLocation() {
   if (m_SelectedNode == nullptr || !isLocation(*m_SelectedNode)) return;
   parent().setSingleLocation(locationText(*m_SelectedNode), m_SelectedNode->tag);
   unload();
-}
-
-void FLocation::LoadCustomResources(std::int16_t& number) {
-  guarded(module_, "FLocation.LoadCustomResources", [&] {
-    if (!module_.NTConnection()->EnableCustomize()) return;
-    Localizer1.setConnection(module_.DBConnection());
-    Localizer1.setNumber(number);
-    Localizer1.setVersion(PELORIN_VERSION);
-    Localizer1.apply();
-    Localizer1.setEnabled(true);
-  });
-}
-
-void FLocation::Localizer1_CustomizeStart() {
-  guarded(module_, "FLocation.Localizer1_CustomizeStart", [this] {
-    MhStretch1.setDesignMode(true);
-    m_bCustomizing = true;
-  });
-}
-
-void FLocation::Localizer1_CustomizeEnd() {
-  guarded(module_, "FLocation.Localizer1_CustomizeEnd", [this] {
-    m_bCustomizing = false;
-    m_CustomizeTarget = nullptr;
-    MhStretch1.setDesignMode(false);
-    placeControls();
-    Localizer1.save();
-  });
-}
-
-void FLocation::customize(Control& control) {
-  m_CustomizeTarget = &control;
-  Localizer1.edit(*m_CustomizeTarget, *this);
 }
 
 }  // namespace pelorin

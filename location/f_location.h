@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "common/form_links.h"
@@ -12,6 +13,7 @@
 #include "controls/tree_view.h"
 #include "location/localizer.h"
 #include "location/mh_stretch.h"
+#include "location/search_as_you_type.h"
 
 namespace pelorin {
 
@@ -22,7 +24,8 @@ class FLocation : public Form {
   // Both are set before the form is shown, and again when it is asked for while it is open.
   // "singlelocation" in any case is single mode, everything else multi mode.
   void setMode(const std::string& mode);
-  void setParent(LocationTarget& parent) { m_Parent = &parent; }
+  // From now on the picker goes when its parent does, also before its window is owned by it.
+  void setParent(LocationTarget& parent);
 
   // How many locations were added in multi mode since the form was opened.
   std::int16_t addedCount() const noexcept { return m_AddedCount; }
@@ -42,6 +45,8 @@ class FLocation : public Form {
   bool Form_KeyDown(int keyCode) override;
 
  private:
+  static constexpr const char* designCaption = "Select Locations";
+
   void connectEvents();
   void loadStep(const std::function<void()>& work);
   void resetSelection();
@@ -49,10 +54,15 @@ class FLocation : public Form {
   void buildTree();
   void LoadCustomResources(std::int16_t& number);
   void customize(Control& control);
+  void setCustomizing(bool customizing);
   void Localizer1_CustomizeStart();
   void Localizer1_CustomizeEnd();
   void placeControls();
 
+  // Escape.
+  void leaveByKey();
+  // True when the tree shall not see the key.
+  bool treeKeyDown(int keyCode);
   void tvTree_NodeClick(TreeNode& node);
   void tvTree_DblClick();
   void addSelectedLocation();
@@ -60,11 +70,11 @@ class FLocation : public Form {
   void cmdMain_Click(int index);
   void acceptLocation();
 
-  // The form that opened the picker. Error 91 when there is none.
-  LocationTarget& parent() const;
+  // The form that opened the picker. Error 91 when there is none, or none any more.
+  LocationTarget& parent(SourceLine where = SourceLine::current()) const;
 
   Module1& module_;
-  LocationTarget* m_Parent = nullptr;
+  std::weak_ptr<LocationTarget> m_Parent;
   std::int16_t m_LocationMode = 2;
   TreeNode* m_SelectedNode = nullptr;
   std::int16_t m_AddedCount = 0;
@@ -73,6 +83,7 @@ class FLocation : public Form {
   bool m_bVn8HardwareSupport = false;
   bool m_bCustomizing = false;
   Control* m_CustomizeTarget = nullptr;
+  SearchAsYouType m_Search;
   Localizer Localizer1;
   MhStretch MhStretch1;
 };

@@ -23,14 +23,14 @@ int controllerImage(std::int32_t portType) {
   return listed ? node_image::networkController : node_image::controller;
 }
 
-std::string_view trimmed(std::string_view text) {
+std::string_view withoutBlanks(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 bool onNetwork(std::string_view portStyle) {
-  return equalNoCase(trimmed(portStyle), "Vollo");
+  return equalNoCase(withoutBlanks(portStyle), "Vollo");
 }
 
 std::string idText(const RecordSet& row, std::string_view field) {
@@ -49,11 +49,6 @@ std::uint8_t controllerType(const RecordSet& row) {
   const double type = toReal(row.value("Controller_Type"));
   const bool fits = type >= 0 && type <= std::numeric_limits<std::uint8_t>::max();
   return fits ? static_cast<std::uint8_t>(type) : std::uint8_t{0};
-}
-
-NodeTexts folderTexts(std::string key, std::string text, std::string tag = {}) {
-  return {std::move(key), std::move(text), std::move(tag), node_image::folder,
-          node_image::openFolder};
 }
 
 }  // namespace
@@ -113,8 +108,17 @@ void HardwareTree::addPorts(const ServerFolders& folders, const std::string& ser
     const std::string portId = idText(ports, "PortID");
     const int image = controllerImage(ports.int32("PortType"));
     addMultiplexers(port, portId, image);
-    RecordSet panels = nodes_.rows("EXECUTE sp_FetchPortPanels " + portId);
-    while (panels.next()) addOtherController(port, panels, image);
+    addPanels(port, portId, image);
+  }
+}
+
+void HardwareTree::addPanels(TreeNode& port, const std::string& portId, int image) {
+  RecordSet panels = nodes_.rows("EXECUTE sp_FetchPortPanels " + portId);
+  while (panels.next()) {
+    const std::int32_t controller = panels.int32("Controller_ID");
+    if (onMultiplexers_.contains(controller)) continue;
+    onPorts_.insert(controller);
+    addController(port, panels, image);
   }
 }
 
@@ -140,16 +144,20 @@ void HardwareTree::addDialUpLocations(TreeNode& folder, const std::string& serve
     const std::string id = idText(locations, "LocationID");
     TreeNode& location = nodes_.add(
         &folder, {"MD" + id, locations.text("LocationName"), "", node_image::dialUpLocation});
-    RecordSet controllers = nodes_.rows(
-        "Select * from Controllers Where PortID IN (Select PortID From DialupLocations Where "
-        "LocationID = " +
-        id + ")");
-    while (controllers.next()) addOtherController(location, controllers, node_image::controller);
+    addDialUpControllers(location, id);
   }
 }
 
-void HardwareTree::addOtherController(TreeNode& parent, const RecordSet& row, int image) {
-  if (!onMultiplexers_.contains(row.int32("Controller_ID"))) addController(parent, row, image);
+void HardwareTree::addDialUpControllers(TreeNode& location, const std::string& locationId) {
+  RecordSet controllers = nodes_.rows(
+      "Select * from Controllers Where PortID IN (Select PortID From DialupLocations Where "
+      "LocationID = " +
+      locationId + ")");
+  while (controllers.next()) {
+    const std::int32_t controller = controllers.int32("Controller_ID");
+    const bool listed = onMultiplexers_.contains(controller) || onPorts_.contains(controller);
+    if (!listed) addController(location, controllers, node_image::controller);
+  }
 }
 
 void HardwareTree::addController(TreeNode& parent, const RecordSet& row, int image) {

@@ -38,8 +38,8 @@ class HardwareTree {
   void addPorts(const ServerFolders& folders, const std::string& serverId);
   void addMultiplexers(TreeNode& port, const std::string& portId, int controllerImage);
   void addDialUpLocations(TreeNode& folder, const std::string& serverId);
-  // Unless a multiplexer lists it already.
-  void addOtherController(TreeNode& parent, const RecordSet& row, int image);
+  void addPanels(TreeNode& port, const std::string& portId, int image);
+  void addDialUpControllers(TreeNode& location, const std::string& locationId);
   void addController(TreeNode& parent, const RecordSet& row, int image);
 
   LocationNodes& nodes_;
@@ -47,7 +47,10 @@ class HardwareTree {
   ControllerFolders folders_;
   NewerFamily newerFamily_;
   IntegratedDevices integratedDevices_;
-  std::set<std::int32_t> onMultiplexers_;  // controller IDs
+  // Controller IDs: what a multiplexer lists is not listed again by its port, and what either lists
+  // not by a dial-up location, which shares the port.
+  std::set<std::int32_t> onMultiplexers_;
+  std::set<std::int32_t> onPorts_;
 };
 
 }  // namespace pelorin

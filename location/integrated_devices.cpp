@@ -15,10 +15,6 @@ std::string idText(const RecordSet& row) {
   return numberText(std::int64_t{row.int32("ID")});
 }
 
-NodeTexts folderTexts(std::string key, std::string text) {
-  return {std::move(key), std::move(text), "", node_image::folder, node_image::openFolder};
-}
-
 NodeTexts deviceTexts(std::string key, std::string text, std::string tag, int image) {
   return {std::move(key), std::move(text), std::move(tag), image, image};
 }

@@ -9,8 +9,6 @@ namespace pelorin {
 
 namespace {
 
-constexpr std::int32_t fileNotFound = 53;
-
 bool hasCaption(const Control& control) {
   return control.kind() == ControlKind::Label || control.kind() == ControlKind::Button;
 }
@@ -29,16 +27,17 @@ std::string Localizer::path() const {
 
 CaptionFile Localizer::read() const {
   std::string text;
-  const auto error = errorOf([&] { text = environment_.readFile(path()); });
+  const auto error = errorOf(
+      [&] { withLine(SourceLine::current(), [&] { text = environment_.readFile(path()); }); });
   // No caption was ever edited.
-  if (error && error->number() != fileNotFound) throw RunTimeError(*error);
+  if (error && error->number() != error_number::fileNotFound) throw RunTimeError(*error);
   return CaptionFile(text);
 }
 
 void Localizer::apply() {
   if (connection_.expired() || !number_ || !version_) {
-    throw RunTimeError(error_number::objectNotSet,
-                       "Object variable or With block variable not set");
+    throw RunTimeError(error_number::objectNotSet, "Object variable or With block variable not set",
+                       __LINE__);
   }
   const CaptionFile captions = read();
   for (Control* control : form_.controls()) {
@@ -112,8 +111,7 @@ void Localizer::showEditor(bool visible) {
   editor_.box.setVisible(visible);
 }
 
-void Localizer::save() {
-  CaptionFile captions = read();
+std::string Localizer::withEdited(CaptionFile captions) const {
   for (const auto& [name, caption] : edited_) {
     if (caption.empty()) {
       captions.remove(*number_, name);
@@ -122,7 +120,14 @@ void Localizer::save() {
     }
   }
   captions.setValue(*number_, "Version", *version_);
-  environment_.writeFile(path(), captions.text());
+  return captions.text();
+}
+
+void Localizer::save() {
+  withLine(SourceLine::current(), [this] {
+    environment_.updateFile(
+        path(), [this](const std::string& kept) { return withEdited(CaptionFile(kept)); });
+  });
   edited_.clear();
 }
 

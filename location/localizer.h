@@ -50,18 +50,21 @@ class Localizer {
   void edit(Control& target, Form& container);
   // True when the key belonged to the text box.
   bool keyDown(int keyCode);
-  // Keeps what was edited since the last time; error 75 when the file cannot be written.
+  // Ends the editing, as the menu does.
+  void end();
+  // Keeps what was edited since the last time, and what others edited meanwhile; error 75 when the
+  // file cannot be read or written, and then everything stays to be kept the next time.
   void save();
 
  private:
   void start();
-  void end();
   void offer(bool customizing);
   void finishEdit();
   void takeCaption(Control& target, const std::string& caption);
   void showEditor(bool visible);
   std::string path() const;
   CaptionFile read() const;
+  std::string withEdited(CaptionFile captions) const;
 
   Form& form_;
   Environment& environment_;

@@ -1,6 +1,13 @@
 #include "location/location_nodes.h"
 
+#include "location/node_images.h"
+
 namespace pelorin {
+
+NodeTexts folderTexts(std::string key, std::string text, std::string tag) {
+  return {std::move(key), std::move(text), std::move(tag), node_image::folder,
+          node_image::openFolder};
+}
 
 RecordSet LocationNodes::rows(const std::string& sql, SourceLine where) const {
   stopWhenClosed();
@@ -27,7 +34,7 @@ std::string LocationNodes::freeKey(const std::string& key) {
 }
 
 void LocationNodes::stopWhenClosed() const {
-  if (!wanted_()) throw AlreadyReported{};
+  if (!wanted_() || module_.connectionLost()) throw AlreadyReported{};
 }
 
 }  // namespace pelorin

@@ -14,11 +14,14 @@
 
 namespace pelorin {
 
+// Texts of a node that shows a folder: closed, and open while it is selected.
+NodeTexts folderTexts(std::string key, std::string text, std::string tag = {});
+
 class LocationNodes {
  public:
   // `wanted` tells whether the window is still there: a report's box lets the host run, and the
-  // operator may close the picker meanwhile. From then on rows() and add() throw AlreadyReported,
-  // which ends the building without a further report.
+  // operator may close the picker meanwhile. From then on, or when the connection is lost, rows()
+  // and add() throw AlreadyReported, which ends the building without a further report.
   LocationNodes(Module1& module, TreeView& tree, std::function<bool()> wanted)
       : module_(module), tree_(tree), wanted_(std::move(wanted)) {}
 

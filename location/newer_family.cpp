@@ -44,8 +44,8 @@ constexpr FamilyFolder familyFolders[] = {
 
 void addFolder(LocationNodes& nodes, TreeNode& controller, const FamilyFolder& folder,
                const std::string& controllerId) {
-  TreeNode& node = nodes.add(&controller, {folder.keyPrefix + controllerId, folder.text, "",
-                                           node_image::folder, node_image::openFolder});
+  TreeNode& node =
+      nodes.add(&controller, folderTexts(folder.keyPrefix + controllerId, folder.text));
   RecordSet rows = nodes.rows(folder.beforeController + controllerId + folder.afterController);
   while (rows.next()) {
     nodes.add(&node, {folder.itemPrefix + rows.text(folder.idField), rows.text("Name"),

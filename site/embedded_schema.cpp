@@ -1,5 +1,9 @@
 #include "site/embedded_schema.h"
 
+#include <algorithm>
+
+#include "site/engine.h"
+
 namespace pelorin::site {
 
 namespace {
@@ -11,23 +15,17 @@ std::string nameList(const ColumnNames& names) {
 }
 
 std::string columnType(const Column& column) {
-  // Texts are compared without regard to case, as on the server.
   if (column.type.isText()) {
-    return "nvarchar(" + std::to_string(column.type.length) + ") collate nocase";
+    return "nvarchar(" + std::to_string(column.type.length) + ") collate " + serverCollation;
   }
   return sqlTypeText(column.type);
 }
 
-bool isOnlyKey(const Table& table, const Column& column) {
-  return table.key.size() == 1 && table.key.front() == column.name;
-}
-
 std::string columnDefinition(const Table& table, const Column& column) {
   const std::string name = quotedName(column.name);
-  // "integer" makes the column the engine's own row number, the cheapest key there is.
   if (column.identity) return name + " integer primary key autoincrement";
-  if (isOnlyKey(table, column)) return name + " integer primary key";
-  return name + " " + columnType(column) + (column.required ? " not null" : "");
+  const bool isKey = std::find(table.key.begin(), table.key.end(), column.name) != table.key.end();
+  return name + " " + columnType(column) + (column.required || isKey ? " not null" : "");
 }
 
 std::string indexName(const Table& table, const ColumnNames& columns) {
@@ -50,7 +48,8 @@ std::string embeddedDefinition(const Table& table) {
     if (&column != &table.columns.front()) sql += ", ";
     sql += columnDefinition(table, column);
   }
-  const bool ownKey = table.key.size() > 1;
+  // A lone "integer" key would be the engine's row number, which takes a null and numbers the row.
+  const bool ownKey = !table.hasIdentity();
   if (ownKey) sql += ", primary key (" + nameList(table.key) + ")";
   sql += ownKey ? ") without rowid;" : ");";
   for (const ColumnNames& index : table.indexes) {

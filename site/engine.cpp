@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "site/errors.h"
+#include "site/text_order.h"
 
 namespace pelorin::site {
 
@@ -18,11 +19,12 @@ struct Wording {
   std::string_view engine;  // how the engine's message begins
   std::string_view before;
   std::string_view after;
+  std::int32_t number = ado_error::statement;
 };
 
 // The engine's messages and what the server says in the same case.
 constexpr std::array<Wording, 4> wordings{
-    {{"no such table: ", "Invalid object name '", "'."},
+    {{"no such table: ", "Invalid object name '", "'.", ado_error::noTable},
      {"no such column: ", "Invalid column name '", "'."},
      {"near \"", "Incorrect syntax near '", "'."},
      {"ambiguous column name: ", "Ambiguous column name '", "'."}}};
@@ -37,15 +39,46 @@ std::string subject(std::string_view text) {
   return std::string(text);
 }
 
-std::string serverWording(std::string_view message) {
-  if (message == "incomplete input") return "Incorrect syntax at the end of the statement.";
-  for (const Wording& wording : wordings) {
-    if (message.starts_with(wording.engine)) {
-      return std::string(wording.before) + subject(message.substr(wording.engine.size())) +
-             std::string(wording.after);
-    }
+RunTimeError serverError(std::string_view message) {
+  if (message == "incomplete input") {
+    return statementError("Incorrect syntax at the end of the statement.");
   }
-  return std::string(message);
+  for (const Wording& wording : wordings) {
+    if (!message.starts_with(wording.engine)) continue;
+    return {wording.number, std::string(wording.before) +
+                                subject(message.substr(wording.engine.size())) +
+                                std::string(wording.after)};
+  }
+  return statementError(std::string(message));
+}
+
+// "NOT NULL constraint failed: Table.Column"
+RunTimeError constraintError(const std::string& message) {
+  constexpr std::string_view nullRefused = "NOT NULL constraint failed: ";
+  const std::size_t dot = message.rfind('.');
+  if (!message.starts_with(nullRefused) || dot == std::string::npos) {
+    return {ado_error::constraint, message + "."};
+  }
+  const std::string_view table =
+      std::string_view(message).substr(nullRefused.size(), dot - nullRefused.size());
+  return nullError(table, std::string_view(message).substr(dot + 1));
+}
+
+int compareServerTexts(void*, int leftSize, const void* left, int rightSize,
+                       const void* right) noexcept {
+  const auto text = [](const void* start, int size) {
+    return std::string_view(static_cast<const char*>(start), static_cast<std::size_t>(size));
+  };
+  return compareTexts(text(left, leftSize), text(right, rightSize));
+}
+
+// The tables of a site are only tables: what else a file brings along is not for us to run.
+bool isGuarded(sqlite3* database) {
+  const auto set = [database](int option, int value) {
+    return sqlite3_db_config(database, option, value, nullptr) == SQLITE_OK;
+  };
+  return set(SQLITE_DBCONFIG_DEFENSIVE, 1) && set(SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0) &&
+         set(SQLITE_DBCONFIG_ENABLE_TRIGGER, 0) && set(SQLITE_DBCONFIG_ENABLE_VIEW, 0);
 }
 
 int openFlags(Engine::Mode mode) {
@@ -66,6 +99,10 @@ std::shared_ptr<Engine> Engine::open(const std::string& path, Mode mode) {
   const int result = sqlite3_open_v2(path.c_str(), &database, openFlags(mode), nullptr);
   std::shared_ptr<Engine> engine(new Engine(database, path));
   if (result != SQLITE_OK) engine->fail(result);
+  if (!isGuarded(database)) engine->fail(SQLITE_ERROR);
+  const int collated = sqlite3_create_collation_v2(database, serverCollation, SQLITE_UTF8, nullptr,
+                                                   compareServerTexts, nullptr);
+  if (collated != SQLITE_OK) engine->fail(collated);
   // A file that cannot be written is opened for reading only, without a word.
   if (sqlite3_db_readonly(database, "main") == 1) engine->fail(SQLITE_READONLY);
   sqlite3_extended_result_codes(database, 0);
@@ -75,6 +112,14 @@ std::shared_ptr<Engine> Engine::open(const std::string& path, Mode mode) {
 
 Engine::~Engine() {
   sqlite3_close_v2(database_);
+}
+
+void Engine::copyFrom(const Engine& other) {
+  sqlite3_backup* copy = sqlite3_backup_init(database_, "main", other.database_, "main");
+  if (copy == nullptr) fail(sqlite3_errcode(database_));
+  sqlite3_backup_step(copy, -1);
+  const int result = sqlite3_backup_finish(copy);
+  if (result != SQLITE_OK) fail(result);
 }
 
 void Engine::script(const std::string& sql) {
@@ -105,9 +150,9 @@ void Engine::fail(int result) const {
     case SQLITE_IOERR:
       throw databaseError(file + "cannot be read or written: " + message + ".");
     case SQLITE_CONSTRAINT:
-      throw RunTimeError(ado_error::constraint, message + ".");
+      throw constraintError(message);
     default:
-      throw statementError(serverWording(message));
+      throw serverError(message);
   }
 }
 

@@ -15,6 +15,9 @@ struct sqlite3_stmt;
 
 namespace pelorin::site {
 
+// The collation of the texts, as on a server.
+inline constexpr const char* serverCollation = "server_text";
+
 class Engine : public std::enable_shared_from_this<Engine> {
  public:
   enum class Mode { Create, Open, Memory };
@@ -24,6 +27,8 @@ class Engine : public std::enable_shared_from_this<Engine> {
   Engine(const Engine&) = delete;
   Engine& operator=(const Engine&) = delete;
 
+  // Takes over everything that `other` holds, in place of what is here.
+  void copyFrom(const Engine& other);
   // Runs the program's own statements, separated by semicolons.
   void script(const std::string& sql);
   // Rows that the last insert, update or delete touched.

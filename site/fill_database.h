@@ -2,7 +2,9 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "site/engine.h"
 #include "site/row_data.h"
@@ -22,6 +24,8 @@ class EngineRows final : public RowSink {
  private:
   std::shared_ptr<Engine> engine_;
   std::unique_ptr<EngineStatement> insert_;
+  std::string table_;
+  std::vector<const Column*> columns_;
 };
 
 }  // namespace pelorin::site

@@ -27,8 +27,9 @@ class ArgumentBinder {
     std::vector<Value> result;
     for (std::size_t place = 0; place < values_.size(); ++place) {
       if (!values_[place]) {
-        throw statementError("Procedure or function '" + procedure_.name + "' expects parameter '" +
-                             procedure_.parameters[place].name + "', which was not supplied.");
+        throw RunTimeError(ado_error::missingParameter,
+                           "Procedure or function '" + procedure_.name + "' expects parameter '" +
+                               procedure_.parameters[place].name + "', which was not supplied.");
       }
       result.push_back(std::move(*values_[place]));
     }

@@ -7,7 +7,7 @@ namespace pelorin::site {
 
 namespace {
 
-[[noreturn]] void refuse(std::string_view line) {
+[[noreturn]] void refuseDataLine(std::string_view line) {
   throw databaseError("The site data does not understand '" + std::string(line) + "'.");
 }
 
@@ -19,7 +19,7 @@ class DataReader {
     std::string_view rest = line;
     if (takeWord(rest) == "table" && line.find('|') == std::string_view::npos) {
       table_ = siteSchema().table(rest);
-      if (!table_) refuse(line);
+      if (!table_) refuseDataLine(line);
       columns_.clear();
     } else if (columns_.empty()) {
       readHeader(line);
@@ -30,11 +30,11 @@ class DataReader {
 
  private:
   void readHeader(std::string_view line) {
-    if (!table_) refuse(line);
+    if (!table_) refuseDataLine(line);
     ColumnNames names;
     for (const std::string_view name : split(line, '|')) {
       const Column* column = table_->column(name);
-      if (!column) refuse(line);
+      if (!column) refuseDataLine(line);
       columns_.push_back(column);
       names.emplace_back(name);
     }
@@ -43,7 +43,7 @@ class DataReader {
 
   void readRow(std::string_view line) {
     const std::vector<std::string_view> cells = split(line, '|');
-    if (cells.size() != columns_.size()) refuse(line);
+    if (cells.size() != columns_.size()) refuseDataLine(line);
     Row row;
     for (std::size_t at = 0; at < cells.size(); ++at) {
       if (cells[at] == "null") {

@@ -11,7 +11,7 @@ namespace pelorin::site {
 
 namespace {
 
-[[noreturn]] void refuse(std::string_view line) {
+[[noreturn]] void refuseTableLine(std::string_view line) {
   throw databaseError("The table description does not understand '" + std::string(line) + "'.");
 }
 
@@ -23,7 +23,7 @@ Column readColumn(std::string_view name, std::string_view rest) {
   } else if (rest == "required") {
     column.required = true;
   } else if (!rest.empty()) {
-    refuse(rest);
+    refuseTableLine(rest);
   }
   return column;
 }
@@ -31,7 +31,7 @@ Column readColumn(std::string_view name, std::string_view rest) {
 ColumnNames readNames(const Table& table, std::string_view text) {
   ColumnNames names;
   for (const std::string_view name : split(text, ',')) {
-    if (!table.column(name)) refuse(text);
+    if (!table.column(name)) refuseTableLine(text);
     names.emplace_back(name);
   }
   return names;
@@ -61,12 +61,12 @@ void Schema::readLine(std::string_view line) {
   std::string_view rest = line;
   const std::string_view word = takeWord(rest);
   if (!line.starts_with(' ')) {
-    if (word != "table") refuse(line);
+    if (word != "table") refuseTableLine(line);
     const std::string_view name = takeWord(rest);
     tables_.push_back({std::string(name), std::string(rest), {}, {}, {}});
     return;
   }
-  if (tables_.empty()) refuse(line);
+  if (tables_.empty()) refuseTableLine(line);
   Table& table = tables_.back();
   if (word == "key") {
     table.key = readNames(table, rest);

@@ -18,7 +18,8 @@ using site::EngineStatement;
 
 // Marks a file as a site database, in the field that the engine keeps for this.
 constexpr std::int64_t siteMark = 0x50454C4F;
-constexpr std::int64_t schemaVersion = 1;
+// Version 2 compares texts in a way of its own, which older programs do not know.
+constexpr std::int64_t schemaVersion = 2;
 
 fs::path filePath(const std::string& utf8) {
   return fs::path(std::u8string(utf8.begin(), utf8.end()));
@@ -137,6 +138,12 @@ SiteDatabase SiteDatabase::inMemory(const SiteFilling& filling) {
   site::Transaction transaction(*engine);
   fill(engine, filling);
   transaction.commit();
+  return SiteDatabase(engine);
+}
+
+SiteDatabase SiteDatabase::copyInMemory() const {
+  const std::shared_ptr<Engine> engine = Engine::open(":memory:", Engine::Mode::Memory);
+  engine->copyFrom(*engine_);
   return SiteDatabase(engine);
 }
 

@@ -36,6 +36,8 @@ class SiteDatabase {
   // locked, read-only, made by a newer version.
   static SiteDatabase open(const std::string& path);
   static SiteDatabase inMemory(const SiteFilling& filling);
+  // Another one in memory with the same rows, for a fraction of what filling it takes.
+  SiteDatabase copyInMemory() const;
 
   // What the host gives to its statement view and its ADO objects; one session per database.
   const std::shared_ptr<SiteSession>& session() const { return session_; }

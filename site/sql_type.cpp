@@ -106,7 +106,7 @@ Value toBoundedText(const Value& value, int length) {
   const auto* truth = std::get_if<bool>(&value);
   std::string text = truth ? std::string(*truth ? "1" : "0") : toText(value);
   if (utf16Length(text) > static_cast<std::size_t>(length)) {
-    throw statementError("String or binary data would be truncated.");
+    throw truncationError();
   }
   return text;
 }

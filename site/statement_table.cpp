@@ -15,7 +15,7 @@ void replaceAll(std::string& text, std::string_view place, std::string_view samp
   }
 }
 
-[[noreturn]] void refuse(std::string_view line) {
+[[noreturn]] void refuseStatementLine(std::string_view line) {
   throw databaseError("The table of statements does not understand '" + std::string(line) + "'.");
 }
 
@@ -33,7 +33,7 @@ void readLine(SiteStatement& statement, std::string_view line) {
   } else if (word == "columns") {
     readColumns(statement, rest);
   } else {
-    refuse(line);
+    refuseStatementLine(line);
   }
 }
 
@@ -49,7 +49,7 @@ std::vector<SiteStatement> readStatements(std::string_view text) {
       const std::string_view name = takeWord(rest);
       statements.push_back({std::string(name), "", {}, rest == "writes"});
     } else {
-      if (statements.empty()) refuse(line);
+      if (statements.empty()) refuseStatementLine(line);
       readLine(statements.back(), trim(line));
     }
   }

@@ -1,13 +1,8 @@
 #include "site/transact_sql.h"
 
-#include <utility>
-
 namespace pelorin::site {
 
 namespace {
-
-// A server takes at most 1000 rows in one insert, and takes its time over long ones.
-constexpr std::size_t rowsPerInsert = 100;
 
 std::string object(std::string_view name) {
   return "dbo." + bracketed(name);
@@ -18,13 +13,7 @@ std::string objectName(std::string_view name) {
   return "N'" + object(name) + "'";
 }
 
-std::string nameList(const ColumnNames& names) {
-  std::string list;
-  for (const std::string& name : names) list += (list.empty() ? "" : ", ") + bracketed(name);
-  return list;
-}
-
-std::string columnType(const SqlType& type) {
+std::string serverColumnType(const SqlType& type) {
   return type.isText() ? "nvarchar(" + std::to_string(type.length) + ")" : sqlTypeText(type);
 }
 
@@ -32,26 +21,26 @@ std::string columnType(const SqlType& type) {
 // word, while an insert into the column fails as it should.
 std::string parameterType(const Parameter& parameter) {
   if (parameter.type.isText() && !parameter.output) return "nvarchar(max)";
-  return columnType(parameter.type);
+  return serverColumnType(parameter.type);
 }
 
 std::string columnDefinition(const Column& column) {
-  return "  " + bracketed(column.name) + " " + columnType(column.type) +
+  return "  " + bracketed(column.name) + " " + serverColumnType(column.type) +
          (column.identity ? " identity(1, 1)" : "") + (column.required ? " not null" : " null");
 }
 
-std::string indexName(const Table& table, const ColumnNames& columns) {
+std::string plainIndexName(const Table& table, const ColumnNames& columns) {
   std::string name = "IX_" + table.name;
   for (const std::string& column : columns) name += "_" + column;
   return name;
 }
 
 void writeIndex(const Table& table, const ColumnNames& columns, const BatchSink& sink) {
-  const std::string name = indexName(table, columns);
+  const std::string name = plainIndexName(table, columns);
   sink("if object_id(" + objectName(table.name) + ", N'U') is not null and not exists (\n" +
        "  select 1 from sys.indexes where object_id = object_id(" + objectName(table.name) +
        ") and name = N'" + name + "')\ncreate index " + bracketed(name) + " on " +
-       object(table.name) + " (" + nameList(columns) + ")");
+       object(table.name) + " (" + bracketedList(columns) + ")");
 }
 
 struct Character {
@@ -90,6 +79,12 @@ std::string bracketed(std::string_view name) {
   return text + "]";
 }
 
+std::string bracketedList(const ColumnNames& names) {
+  std::string list;
+  for (const std::string& name : names) list += (list.empty() ? "" : ", ") + bracketed(name);
+  return list;
+}
+
 std::string serverText(std::string_view text) {
   std::string result = "N'";
   for (std::size_t at = 0; at < text.size();) {
@@ -117,8 +112,8 @@ void writeTable(const Table& table, const BatchSink& sink) {
   std::string sql = "if object_id(" + objectName(table.name) + ") is null\ncreate table " +
                     object(table.name) + " (\n";
   for (const Column& column : table.columns) sql += columnDefinition(column) + ",\n";
-  sql += "  constraint " + bracketed("PK_" + table.name) + " primary key (" + nameList(table.key) +
-         ")\n)";
+  sql += "  constraint " + bracketed("PK_" + table.name) + " primary key (" +
+         bracketedList(table.key) + ")\n)";
   sink(sql);
   for (const ColumnNames& index : table.indexes) writeIndex(table, index, sink);
 }
@@ -137,50 +132,6 @@ void writeProcedure(const Procedure& procedure, const BatchSink& sink) {
   std::string text;
   for (const char c : procedureDefinition(procedure)) text.append(c == '\'' ? 2 : 1, c);
   sink("if object_id(" + objectName(procedure.name) + ") is null\nexec (N'" + text + "')");
-}
-
-ServerRows::ServerRows(BatchSink sink) : sink_(std::move(sink)) {
-  std::string empty;
-  for (const Table& table : siteSchema().tables()) {
-    empty += empty.empty() ? "if " : "\n  and ";
-    empty += "not exists (select 1 from " + object(table.name) + ")";
-  }
-  sink_("set xact_abort on");
-  sink_(empty +
-        "\nbegin transaction\n"
-        "else print N'There are rows already; nothing is added.'");
-}
-
-void ServerRows::begin(const Table& table, const ColumnNames& columns) {
-  flush();
-  table_ = &table;
-  columns_ = columns;
-}
-
-void ServerRows::row(const Row& row) {
-  std::string cells;
-  for (std::size_t at = 0; at < row.size(); ++at) {
-    cells += (at == 0 ? "(" : ", ") + serverLiteral(table_->column(columns_[at])->type, row[at]);
-  }
-  rows_.push_back(cells + ")");
-  if (rows_.size() == rowsPerInsert) flush();
-}
-
-void ServerRows::flush() {
-  if (rows_.empty()) return;
-  const bool identity = table_->hasIdentity();
-  std::string sql = "if @@trancount > 0\nbegin\n";
-  if (identity) sql += "set identity_insert " + object(table_->name) + " on;\n";
-  sql += "insert into " + object(table_->name) + " (" + nameList(columns_) + ") values\n";
-  for (const std::string& row : rows_) sql += row + (&row == &rows_.back() ? ";\n" : ",\n");
-  if (identity) sql += "set identity_insert " + object(table_->name) + " off;\n";
-  sink_(sql + "end");
-  rows_.clear();
-}
-
-void ServerRows::finish() {
-  flush();
-  sink_("if @@trancount > 0 commit transaction");
 }
 
 }  // namespace pelorin::site

@@ -5,10 +5,8 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "site/procedure.h"
-#include "site/row_data.h"
 #include "site/schema.h"
 
 namespace pelorin::site {
@@ -17,6 +15,7 @@ namespace pelorin::site {
 using BatchSink = std::function<void(const std::string&)>;
 
 std::string bracketed(std::string_view name);
+std::string bracketedList(const ColumnNames& names);
 // Characters beyond ASCII as nchar(n), so that no tool's code page can spoil them.
 std::string serverText(std::string_view text);
 std::string serverLiteral(const SqlType& type, const Value& value);
@@ -27,24 +26,5 @@ void writeTable(const Table& table, const BatchSink& sink);
 void writeProcedure(const Procedure& procedure, const BatchSink& sink);
 // What `create procedure` says, without the condition.
 std::string procedureDefinition(const Procedure& procedure);
-
-// Rows as inserts, all in one transaction that is begun only when no table holds a row. Call
-// begin/row through a filling, then finish().
-class ServerRows final : public RowSink {
- public:
-  explicit ServerRows(BatchSink sink);
-
-  void begin(const Table& table, const ColumnNames& columns) override;
-  void row(const Row& row) override;
-  void finish();
-
- private:
-  void flush();
-
-  BatchSink sink_;
-  const Table* table_ = nullptr;
-  ColumnNames columns_;
-  std::vector<std::string> rows_;
-};
 
 }  // namespace pelorin::site

@@ -97,9 +97,17 @@ void frmTASummary::Form_Resize() {
 // Enter in the grid edits as the default button does, but the focus stays, so that the arrow keys
 // still move through the list when the editor is closed.
 bool frmTASummary::Form_KeyDown(int keyCode) {
+  if (keyCode == key_code::escape) return showInnermost();
   if (keyCode != key_code::enter || focused() != &MSFlexGrid1) return false;
   cmdEdit_.userClick();
   return true;
+}
+
+// Escape must not throw away what is being typed in a window that closes with this one.
+bool frmTASummary::showInnermost() {
+  Form* innermost = isOpen() ? screen()->innermostOwnedBy(*this) : nullptr;
+  if (innermost != nullptr) screen()->show(*innermost);
+  return innermost != nullptr;
 }
 
 void frmTASummary::ReloadSummary() {
@@ -107,10 +115,11 @@ void frmTASummary::ReloadSummary() {
   guarded(module_, "frmTASummary.ReloadSummary", [this] {
     const HourglassPointer hourglass(module_.screen());
     const std::optional<SummaryKey> current = currentKey(MSFlexGrid1);
+    const int place = MSFlexGrid1.row();
     const int caret = MSFlexGrid1.caretRow();
     const int top = MSFlexGrid1.topRow();
     LoadSummaryData(MSFlexGrid1);
-    const int row = current ? rowOf(MSFlexGrid1, *current) : 0;
+    const int row = current ? rowOf(MSFlexGrid1, *current, place) : 0;
     if (row > 0) {
       MSFlexGrid1.setRow(row);
     } else {
@@ -140,6 +149,12 @@ void frmTASummary::LoadSummaryData(Grid& grid) {
   EnableEditButtons(grid.rows() >= 2);
 }
 
+// A report's box lets the host run, which may close the window; without a connection no further row
+// could be told what belongs into it.
+bool frmTASummary::loading() const {
+  return isOpen() && !module_.connectionLost();
+}
+
 void frmTASummary::LoadCCTVSummaryData(Grid& grid, LoadTexts& texts) {
   guarded(module_, "frmTASummary.LoadCCTVSummaryData", [&] {
     RecordSet rows = module_.DBConnection()->open(
@@ -148,7 +163,7 @@ void frmTASummary::LoadCCTVSummaryData(Grid& grid, LoadTexts& texts) {
         " inner join CCTV_Switchers on CCTV_Switchers.SwitcherId = CCTV_TriggerAction.SwitcherId "
         "order by t_Address, T_EventID");
     rows.drain();
-    while (isOpen() && rows.next()) {
+    while (loading() && rows.next()) {
       SummaryRow row;
       row.eventId = rows.int32("T_EventID");
       row.trigger = texts.trigger(row.eventId);
@@ -166,7 +181,7 @@ void frmTASummary::LoadDeviceSummaryData(Grid& grid, LoadTexts& texts) {
   if (!isOpen()) return;
   RecordSet rows = module_.DBConnection()->open("exec TA_FetchSummary");
   rows.drain();
-  while (isOpen() && rows.next()) {
+  while (loading() && rows.next()) {
     SummaryRow row;
     row.type = rows.text("Classname");
     if (row.type == "DVR / NVR") {
@@ -205,6 +220,7 @@ void frmTASummary::EnableEditButtons(bool dataRowsExist) {
 
 void frmTASummary::cmdAddEdit_Click(int index) {
   guarded(module_, "frmTASummary.cmdAddEdit_Click", [&] {
+    const HourglassPointer hourglass(module_.screen());
     EditorRequest request;
     if (index == edit) {
       const std::optional<SummaryKey> current = currentKey(MSFlexGrid1);
@@ -224,13 +240,14 @@ void frmTASummary::cmdDelete_Click() {
 
 void frmTASummary::deleteCurrentTrigger() {
   const HourglassPointer hourglass(module_.screen());
-  const SummaryKey key = keyOf(MSFlexGrid1, MSFlexGrid1.row());
-  const std::string eventId = MSFlexGrid1.cell(MSFlexGrid1.row(), summary_column::eventId);
+  const int place = MSFlexGrid1.row();
+  const SummaryKey key = keyOf(MSFlexGrid1, place);
+  const std::string eventId = MSFlexGrid1.cell(place, summary_column::eventId);
   const bool deleted = equalNoCase(key.type, "CCTV")
                            ? DeleteCCTVTriggerAction(module_, key.triggerId)
                            : DeleteTriggerAction(module_, key.triggerId);
   if (!deleted) throw AlreadyReported();
-  const int row = rowOf(MSFlexGrid1, key);
+  const int row = rowOf(MSFlexGrid1, key, place);
   if (row > 0) {
     removeSummaryRow(MSFlexGrid1, row);
     leaveCaretAt(MSFlexGrid1, row);

@@ -27,6 +27,8 @@ class frmTASummary : public Form {
  private:
   void layOut();
   void connectEvents();
+  bool showInnermost();
+  bool loading() const;
 
   void InitSummaryGridHeader(Grid& grid);
   void LoadSummaryData(Grid& grid);

@@ -43,13 +43,15 @@ std::optional<SummaryKey> currentKey(const Grid& grid) {
   return keyOf(grid, grid.row());
 }
 
-int rowOf(const Grid& grid, const SummaryKey& key) {
+int rowOf(const Grid& grid, const SummaryKey& key, int place) {
   const std::string id = numberText(key.triggerId);
+  const auto shows = [&](int row) {
+    return grid.cell(row, summary_column::triggerId) == id &&
+           grid.cell(row, summary_column::type) == key.type;
+  };
+  if (isDataRow(grid, place) && shows(place)) return place;
   for (int row = 1; row < grid.rows(); ++row) {
-    if (grid.cell(row, summary_column::triggerId) == id &&
-        grid.cell(row, summary_column::type) == key.type) {
-      return row;
-    }
+    if (shows(row)) return row;
   }
   return 0;
 }

@@ -47,8 +47,9 @@ bool isDataRow(const Grid& grid, int row);
 SummaryKey keyOf(const Grid& grid, int row);
 // The trigger of the current row, if there is one.
 std::optional<SummaryKey> currentKey(const Grid& grid);
-// The row that shows the trigger, 0 when none does.
-int rowOf(const Grid& grid, const SummaryKey& key);
+// The row that shows the trigger: the one at `place` if it does, else the first; 0 when none does.
+// A trigger can be listed twice, and the list can have been loaded again.
+int rowOf(const Grid& grid, const SummaryKey& key, int place = 0);
 
 // Both work around the grid's rule that the last row that is not fixed cannot be removed.
 void removeSummaryRow(Grid& grid, int row);

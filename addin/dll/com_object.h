@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "addin/dll/module.h"
-#include "controls/run_time_error.h"
+#include "win32/com/com_error.h"
 
 namespace pelorin {
 
@@ -19,7 +19,7 @@ HRESULT boundary(Work&& work) noexcept {
   try {
     return std::forward<Work>(work)();
   } catch (const RunTimeError& error) {
-    return error.number() < 0 ? error.number() : E_FAIL;
+    return resultOf(error);
   } catch (const std::bad_alloc&) {
     return E_OUTOFMEMORY;
   } catch (...) {

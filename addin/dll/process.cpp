@@ -1,38 +1,33 @@
 #include "addin/dll/process.h"
 
-#include "addin/dll/module.h"
-#include "addin/dll/windows_environment.h"
-#include "win32/views/native_screen.h"
+#include "addin/dll/process_entrance.h"
 
 namespace pelorin::process {
 
 namespace {
 
-struct Shared {
-  WindowsEnvironment environment;
-  NativeScreen screen{ownModule()};
-  Component component{screen, environment};
-};
-
-Shared* made = nullptr;
-
-Shared& shared() {
-  if (made == nullptr) made = new Shared;
-  return *made;
+// Kept until the process ends, when the host's own modules may be gone already.
+ProcessEntrance& shared() {
+  static ProcessEntrance& entrance = *new ProcessEntrance;
+  return entrance;
 }
 
 }  // namespace
 
-Component& component() {
-  return shared().component;
-}
-
-void setHostWindow(WindowHandle window) {
-  shared().screen.setHostWindow(window);
+Entrance& entrance() {
+  return shared();
 }
 
 bool hasOpenWindows() noexcept {
-  return made != nullptr && !made->screen.openForms().empty();
+  return shared().hasOpenWindows();
+}
+
+ObjectUse::ObjectUse() noexcept {
+  shared().objectMade();
+}
+
+ObjectUse::~ObjectUse() {
+  shared().objectGone();
 }
 
 }  // namespace pelorin::process

@@ -2,18 +2,24 @@
 // the references that the host handed over.
 #pragma once
 
-#include "addin/component.h"
+#include "addin/entrance.h"
 
 namespace pelorin::process {
 
-// Made at the first call and kept until the process ends: what the host lent is not given back at a
-// time when the host's own modules may be gone.
-Component& component();
+// Of every object in the process. The references of the host are let go when the last object is
+// gone and no window is open.
+Entrance& entrance();
 
-// Message boxes belong to this window while no window of the component is active.
-void setHostWindow(WindowHandle window);
-
-// Whether a window of the component is open.
+// Whether a window of the component is open. May be asked from any thread.
 bool hasOpenWindows() noexcept;
+
+// Counts an object of the class for as long as it lives.
+class ObjectUse {
+ public:
+  ObjectUse() noexcept;
+  ObjectUse(const ObjectUse&) = delete;
+  ObjectUse& operator=(const ObjectUse&) = delete;
+  ~ObjectUse();
+};
 
 }  // namespace pelorin::process

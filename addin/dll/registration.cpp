@@ -3,10 +3,12 @@
 #include <ole2.h>
 
 #include <array>
+#include <vector>
 
 #include "Pelorin.h"
 #include "addin/dll/module.h"
 #include "addin/dll/registry_key.h"
+#include "addin/dll/registry_tree.h"
 #include "addin/dll/type_library.h"
 #include "win32/com/com_error.h"
 
@@ -23,7 +25,6 @@ namespace {
 
 constexpr const wchar_t* classText = L"Pelorin trigger actions add-in";
 constexpr const wchar_t* programId = L"Pelorin.TAManager";
-constexpr const wchar_t* versionedProgramId = L"Pelorin.TAManager.1";
 
 constexpr bool is64Bit = sizeof(void*) == 8;
 constexpr SYSKIND ownSystem = is64Bit ? SYS_WIN64 : SYS_WIN32;
@@ -57,27 +58,25 @@ void writeClass(HKEY root) {
   const RegistryKey server(root, key + L"\\InprocServer32");
   server.setText(nullptr, ownPath());
   server.setText(L"ThreadingModel", L"Apartment");
-  writeValue(root, key + L"\\ProgID", versionedProgramId);
-  writeValue(root, key + L"\\VersionIndependentProgID", programId);
+  writeValue(root, key + L"\\ProgID", programId);
   writeValue(root, key + L"\\TypeLib", textOf(LIBID_Pelorin));
   writeValue(root, key + L"\\Version", L"1.0");
   writeValue(root, key + L"\\Programmable", L"");
 }
 
-void writeProgramIds(HKEY root) {
-  const std::wstring id = textOf(CLSID_TAManager);
-  for (const wchar_t* name : {programId, versionedProgramId}) {
-    writeValue(root, classes(name), classText);
-    writeValue(root, classes(name) + L"\\CLSID", id);
-  }
-  writeValue(root, classes(programId) + L"\\CurVer", versionedProgramId);
+void writeProgramId(HKEY root) {
+  writeValue(root, classes(programId), classText);
+  writeValue(root, classes(programId) + L"\\CLSID", textOf(CLSID_TAManager));
 }
 
 void writeTypeLibrary(Scope scope) {
   const ComPtr<ITypeLib> library = ownTypeLibrary();
   std::wstring path = ownPath();
-  check(scope == Scope::Machine ? RegisterTypeLib(library.get(), path.data(), nullptr)
-                                : RegisterTypeLibForUser(library.get(), path.data(), nullptr));
+  const HRESULT result = scope == Scope::Machine
+                             ? RegisterTypeLib(library.get(), path.data(), nullptr)
+                             : RegisterTypeLibForUser(library.get(), path.data(), nullptr);
+  // Automation's own word for missing rights.
+  check(result == TYPE_E_REGISTRYACCESS ? E_ACCESSDENIED : result);
 }
 
 // One that was never registered is fine.
@@ -91,17 +90,29 @@ void removeTypeLibrary(Scope scope) {
 
 void writeAll(Scope scope) {
   writeClass(rootOf(scope));
-  writeProgramIds(rootOf(scope));
+  writeProgramId(rootOf(scope));
   writeTypeLibrary(scope);
+}
+
+// All that writeAll touches.
+std::vector<RegistryTree> treesOf(HKEY root) {
+  std::vector<RegistryTree> trees;
+  for (const std::wstring& path :
+       {classKey(), classes(programId), classes(L"TypeLib\\" + textOf(LIBID_Pelorin)),
+        classes(L"Interface\\" + textOf(IID__TAManager))}) {
+    trees.emplace_back(root, path);
+  }
+  return trees;
 }
 
 }  // namespace
 
 void registerServer(Scope scope) {
+  const std::vector<RegistryTree> before = treesOf(rootOf(scope));
   try {
     writeAll(scope);
   } catch (const std::exception&) {
-    unregisterServer(scope);
+    for (const RegistryTree& tree : before) tree.restore();
     throw;
   }
 }
@@ -112,7 +123,6 @@ void unregisterServer(Scope scope) {
   removeTypeLibrary(scope);
   if (keyExists(root, classKey(), otherView)) return;
   deleteKey(root, classes(programId));
-  deleteKey(root, classes(versionedProgramId));
 }
 
 }  // namespace pelorin

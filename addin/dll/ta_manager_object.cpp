@@ -82,20 +82,9 @@ bool isObjectProperty(DISPID id) {
   return id == parentId || id == ntConnectionId || id == dbConnectionId;
 }
 
-// The object properties pass over every error.
-template <class Work>
-HRESULT silently(Work&& work) noexcept {
-  try {
-    std::forward<Work>(work)();
-  } catch (...) {
-    return S_OK;
-  }
-  return S_OK;
-}
-
 }  // namespace
 
-TAManagerObject::TAManagerObject() : manager_(process::component()) {}
+TAManagerObject::TAManagerObject() : manager_(process::entrance()) {}
 
 STDMETHODIMP TAManagerObject::QueryInterface(REFIID id, void** object) noexcept {
   if (object == nullptr) return E_POINTER;
@@ -127,55 +116,66 @@ STDMETHODIMP TAManagerObject::get_InDesign(VARIANT_BOOL* result) noexcept {
   return S_OK;
 }
 
-STDMETHODIMP TAManagerObject::Activate() noexcept {
-  manager_.Activate();
+// The host may let go of the object while a box is open.
+template <class Work>
+HRESULT TAManagerObject::member(Work&& work) noexcept {
+  const ComPtr<_TAManager> self(this);
+  std::forward<Work>(work)(manager_);
   return S_OK;
+}
+
+STDMETHODIMP TAManagerObject::Activate() noexcept {
+  return member([](TAManagerMembers& manager) { manager.Activate(); });
 }
 
 STDMETHODIMP TAManagerObject::Destroy() noexcept {
-  manager_.Destroy();
-  return S_OK;
+  return member([](TAManagerMembers& manager) { manager.Destroy(); });
 }
 
 STDMETHODIMP TAManagerObject::putref_Parent(IDispatch* obj) noexcept {
-  return silently([&] { setParent(obj); });
+  return set(parentId, obj);
 }
 
 STDMETHODIMP TAManagerObject::putref_NTConnection(IDispatch* obj) noexcept {
-  return silently([&] { setServices(obj); });
+  return set(ntConnectionId, obj);
 }
 
 STDMETHODIMP TAManagerObject::putref_DBConnection(IDispatch* obj) noexcept {
-  return silently([&] { setDatabase(obj); });
+  return set(dbConnectionId, obj);
 }
 
 STDMETHODIMP TAManagerObject::RaiseForm() noexcept {
-  // The host may let go of the object while a box is open.
-  const ComPtr<_TAManager> self(this);
   const auto owner = reinterpret_cast<WindowHandle>(liveWindow(parent_));
-  process::setHostWindow(owner);
-  manager_.RaiseForm(owner);
-  return S_OK;
+  return member([owner](TAManagerMembers& manager) { manager.RaiseForm(owner); });
 }
 
 STDMETHODIMP TAManagerObject::OnEvent(LONG, LONG, BSTR, DATE, DATE, BSTR, BSTR,
                                       SAFEARRAY*) noexcept {
-  return S_OK;
+  return member([](TAManagerMembers& manager) { manager.OnEvent(); });
 }
 
 STDMETHODIMP TAManagerObject::OnStream(BSTR) noexcept {
-  manager_.OnStream();
-  return S_OK;
+  return member([](TAManagerMembers& manager) { manager.OnStream(); });
 }
 
 STDMETHODIMP TAManagerObject::Install(BSTR) noexcept {
-  manager_.Install();
-  return S_OK;
+  return member([](TAManagerMembers& manager) { manager.Install(); });
 }
 
 STDMETHODIMP TAManagerObject::UnInstall() noexcept {
-  manager_.UnInstall();
-  return S_OK;
+  return member([](TAManagerMembers& manager) { manager.UnInstall(); });
+}
+
+// The host may let go of either object while its own one is asked what it is.
+HRESULT TAManagerObject::set(DISPID id, IUnknown* object) noexcept {
+  const ComPtr<IUnknown> held(object);
+  return member([&](TAManagerMembers& manager) {
+    manager.assign([&](Component& component) {
+      if (id == parentId) setParent(object);
+      if (id == ntConnectionId) setServices(component.module(), held);
+      if (id == dbConnectionId) setDatabase(component.module(), held);
+    });
+  });
 }
 
 void TAManagerObject::setParent(IUnknown* object) {
@@ -183,29 +183,23 @@ void TAManagerObject::setParent(IUnknown* object) {
   if (window != nullptr) parent_ = window;
 }
 
-void TAManagerObject::setServices(IUnknown* object) {
-  ComPtr<IDispatch> services = ComPtr<IUnknown>(object).query<IDispatch>(IID_IDispatch);
-  process::component().module().setNTConnection(
-      services ? std::make_shared<LateBoundServices>(std::move(services)) : nullptr);
+void TAManagerObject::setServices(Module1& module, const ComPtr<IUnknown>& object) {
+  ComPtr<IDispatch> services = object.query<IDispatch>(IID_IDispatch);
+  module.setNTConnection(services ? std::make_shared<LateBoundServices>(std::move(services))
+                                  : nullptr);
 }
 
-void TAManagerObject::setDatabase(IUnknown* object) {
-  if (object == nullptr || !isAdoConnection(object)) return;
-  ComPtr<IDispatch> connection = ComPtr<IUnknown>(object).query<IDispatch>(IID_IDispatch);
-  if (!connection) return;
-  process::component().module().setDBConnection(
-      std::make_shared<AdoConnection>(std::move(connection)));
+void TAManagerObject::setDatabase(Module1& module, const ComPtr<IUnknown>& object) {
+  if (!object || !isAdoConnection(object.get())) return;
+  ComPtr<IDispatch> connection = object.query<IDispatch>(IID_IDispatch);
+  if (connection) module.setDBConnection(std::make_shared<AdoConnection>(std::move(connection)));
 }
 
 HRESULT TAManagerObject::assign(DISPID id, const DISPPARAMS& parameters) {
   if (parameters.cArgs != 1) return DISP_E_BADPARAMCOUNT;
   const Variant value = resolved(parameters.rgvarg[0]);
-  if (value.vt != VT_DISPATCH && value.vt != VT_UNKNOWN) return S_OK;
-  return silently([&] {
-    if (id == parentId) setParent(value.punkVal);
-    if (id == ntConnectionId) setServices(value.punkVal);
-    if (id == dbConnectionId) setDatabase(value.punkVal);
-  });
+  const bool object = value.vt == VT_DISPATCH || value.vt == VT_UNKNOWN;
+  return object ? set(id, value.punkVal) : S_OK;
 }
 
 HRESULT TAManagerObject::call(DISPID id, const DISPPARAMS& parameters, UINT& argument) {

@@ -5,9 +5,12 @@
 #include <ocidl.h>
 #include <ole2.h>
 
+#include <atomic>
+
 #include "Pelorin.h"
 #include "addin/dll/call_arguments.h"
 #include "addin/dll/com_object.h"
+#include "addin/dll/process.h"
 #include "addin/ta_manager_members.h"
 
 namespace pelorin {
@@ -50,18 +53,24 @@ class TAManagerObject final : public _TAManager, public IProvideClassInfo {
  private:
   ~TAManagerObject() = default;
 
+  template <class Work>
+  HRESULT member(Work&& work) noexcept;
+  // An object property.
+  HRESULT set(DISPID id, IUnknown* object) noexcept;
   void setParent(IUnknown* object);
-  void setServices(IUnknown* object);
-  void setDatabase(IUnknown* object);
+  static void setServices(Module1& module, const ComPtr<IUnknown>& object);
+  static void setDatabase(Module1& module, const ComPtr<IUnknown>& object);
 
   ITypeInfo* typeInfo();
   HRESULT assign(DISPID id, const DISPPARAMS& parameters);
   HRESULT call(DISPID id, const DISPPARAMS& parameters, UINT& argument);
   HRESULT readInDesign(const DISPPARAMS& parameters, VARIANT* result);
 
+  // First, so that it ends last.
+  process::ObjectUse use_;
   ReferenceCount references_;
   TAManagerMembers manager_;
-  HWND parent_ = nullptr;
+  std::atomic<HWND> parent_{nullptr};
   ComPtr<ITypeInfo> typeInfo_;
 };
 

@@ -6,6 +6,7 @@
 
 #include "addin/dll/files.h"
 #include "addin/dll/module.h"
+#include "addin/dll/picture_file.h"
 #include "addin/dll/private_profile.h"
 #include "win32/text/utf16.h"
 
@@ -47,8 +48,16 @@ std::string WindowsEnvironment::readFile(const std::string& path) const {
   return files::read(path);
 }
 
-void WindowsEnvironment::writeFile(const std::string& path, const std::string& bytes) {
-  files::replace(path, bytes);
+std::uint64_t WindowsEnvironment::milliseconds() const noexcept {
+  return GetTickCount64();
+}
+
+void WindowsEnvironment::updateFile(const std::string& path, const ContentChange& change) {
+  files::update(path, change);
+}
+
+Picture WindowsEnvironment::readPicture(const std::string& path) const {
+  return readPictureFile(path);
 }
 
 }  // namespace pelorin

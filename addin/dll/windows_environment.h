@@ -14,7 +14,9 @@ class WindowsEnvironment : public Environment {
                                    const std::string& fallback, unsigned capacity,
                                    const std::string& file) const override;
   std::string readFile(const std::string& path) const override;
-  void writeFile(const std::string& path, const std::string& bytes) override;
+  std::uint64_t milliseconds() const noexcept override;
+  void updateFile(const std::string& path, const ContentChange& change) override;
+  Picture readPicture(const std::string& path) const override;
 };
 
 }  // namespace pelorin

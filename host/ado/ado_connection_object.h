@@ -34,11 +34,19 @@ class AdoConnectionObject : public AutomationObject<AdoConnectionObject> {
   // Runs `work` and keeps what the server said for the Errors collection.
   template <class Work>
   auto recorded(Work&& work) {
-    try {
+    return errorRecorded([&] {
       messages_.clear();
       auto result = work(*database());
       messages_ = database()->messages();
       return result;
+    });
+  }
+
+  // Runs `work` on a result that is open, and keeps what the server says if it fails.
+  template <class Work>
+  auto errorRecorded(Work&& work) {
+    try {
+      return work();
     } catch (const RunTimeError& error) {
       messages_ = messagesOf(error);
       throw;

@@ -132,7 +132,8 @@ Variant AdoRecordsetObject::atBegin(const MemberCall&) const {
 }
 
 Variant AdoRecordsetObject::moveNext(const MemberCall&) {
-  openRows().next();
+  ResultReader& reader = openRows();
+  connection_->errorRecorded([&] { reader.next(); });
   moved_ = true;
   return {};
 }
@@ -150,7 +151,9 @@ Variant AdoRecordsetObject::getRows(const MemberCall& call) {
   ResultReader& reader = openRows();
   if (reader.atEnd()) ado::fail(ado::error::noCurrentRecord);
   moved_ = true;
-  return rowArray(reader.take(call.int32Or(0, -1)), reader.columns().size());
+  const std::vector<Value> cells =
+      connection_->errorRecorded([&] { return reader.take(call.int32Or(0, -1)); });
+  return rowArray(cells, reader.columns().size());
 }
 
 // As with every server-side cursor this record set is closed by going on to the next result.

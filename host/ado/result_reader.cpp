@@ -17,28 +17,45 @@ constexpr std::size_t blockRows = 100;
 
 ResultReader::ResultReader(std::unique_ptr<ResultCursor> cursor) : cursor_(std::move(cursor)) {
   fill();
+  raiseError();
 }
 
 void ResultReader::fill() {
   cells_.clear();
   row_ = 0;
   rows_ = 0;
-  if (hasRows()) rows_ = cursor_->fetch(blockRows, cells_);
+  if (hasRows() && !error_) fetch();
+}
+
+void ResultReader::fetch() {
+  try {
+    rows_ = cursor_->fetch(blockRows, cells_);
+  } catch (const std::exception&) {
+    error_ = std::current_exception();
+    rows_ = cells_.size() / columns().size();
+  }
+}
+
+void ResultReader::raiseError() const {
+  if (!holdsRow() && error_) std::rethrow_exception(error_);
 }
 
 std::span<const Value> ResultReader::row() const {
+  raiseError();
   if (atEnd()) ado::fail(ado::error::noCurrentRecord);
   return std::span(cells_).subspan(row_ * columns().size(), columns().size());
 }
 
 void ResultReader::next() {
+  raiseError();
   if (atEnd()) ado::fail(ado::error::noCurrentRecord);
   if (++row_ == rows_) fill();
 }
 
 std::vector<Value> ResultReader::take(std::int64_t count) {
+  raiseError();
   std::vector<Value> taken;
-  while (count != 0 && !atEnd()) {
+  while (count != 0 && holdsRow()) {
     const std::size_t here = rows_ - row_;
     const std::size_t now = count < 0 ? here : std::min(here, static_cast<std::size_t>(count));
     const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(row_ * columns().size());
@@ -53,6 +70,7 @@ std::vector<Value> ResultReader::take(std::int64_t count) {
 
 bool ResultReader::nextResult() {
   if (!cursor_->nextResult()) return false;
+  error_ = nullptr;
   fill();
   return true;
 }

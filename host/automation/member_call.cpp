@@ -92,7 +92,8 @@ Variant variantOf(const Value& value) {
                                [](double number) { return Variant::real(number); },
                                [](bool truth) { return boolean(truth); },
                                [](const std::string& text) { return Variant::text(text); },
-                               [](Date date) { return dateVariant(date); }},
+                               [](Date date) { return dateVariant(date); },
+                               [](Unreadable) { return Variant::null(); }},
                     value);
 }
 

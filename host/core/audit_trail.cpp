@@ -11,6 +11,8 @@ AuditTrail::AuditTrail(AuditLog file) : file_(std::move(file)) {
   readNew();
 }
 
+AuditTrail::AuditTrail(AuditTable table) : table_(std::move(table)) {}
+
 void AuditTrail::add(AuditRecord record) {
   if (file_) {
     file_->append(record);
@@ -18,6 +20,7 @@ void AuditTrail::add(AuditRecord record) {
   } else {
     record.number = static_cast<std::int64_t>(records_.size()) + 1;
     record.loggedAt = localTimeText();
+    if (table_) table_->append(record);
     records_.push_back(std::move(record));
   }
   if (onChange) onChange();

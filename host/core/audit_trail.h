@@ -1,11 +1,12 @@
-// The audit log as the host shows it: what the database file keeps, or, over another database, what
-// happened since the start.
+// The audit log as the host shows it: what the database file keeps, or, over a server, what was
+// written into its table since the start.
 #pragma once
 
 #include <functional>
 #include <optional>
 #include <vector>
 
+#include "host/core/audit_table.h"
 #include "site/audit_log.h"
 
 namespace pelorin::host {
@@ -14,18 +15,21 @@ class AuditTrail {
  public:
   AuditTrail() = default;
   explicit AuditTrail(AuditLog file);
+  explicit AuditTrail(AuditTable table);
 
   std::function<void()> onChange;
 
   const std::vector<AuditRecord>& records() const noexcept { return records_; }
 
-  // Number and time are given here. A record that cannot be kept is not shown either.
+  // Time is given here, and a number for the view. A record that cannot be kept is not shown
+  // either.
   void add(AuditRecord record);
 
  private:
   void readNew();
 
   std::optional<AuditLog> file_;
+  std::optional<AuditTable> table_;
   std::vector<AuditRecord> records_;
 };
 

@@ -24,6 +24,8 @@ class Parser {
     if (name == "--pictures") return value(name, options_.picturesFolder);
     if (name == "--play") {
       options_.play = true;
+    } else if (name == "--undo") {
+      options_.undo = true;
     } else if (name == "--help" || name == "-h" || name == "/?") {
       options_.help = true;
     } else {
@@ -47,10 +49,14 @@ class Parser {
   void checkCombination() const {
     const bool embedded = options_.source == Source::EmbeddedDatabase;
     if (!embedded && !options_.database.empty()) throw OptionError(oneSource_);
-    const bool playing = options_.play || !options_.picturesFolder.empty();
-    if (playing && !(embedded && options_.database.empty())) {
+    const bool pictures = !options_.picturesFolder.empty();
+    const bool ownDatabase = embedded && options_.database.empty();
+    if ((pictures && !ownDatabase) || (options_.play && !options_.database.empty())) {
       throw OptionError(
           "A played request makes a database of its own: leave out the one you named.");
+    }
+    if (options_.undo && (embedded || !options_.play)) {
+      throw OptionError("--undo belongs to --play with --odbc or --connect.");
     }
   }
 
@@ -74,7 +80,10 @@ std::string usageText() {
          "  --odbc <string>         use this ODBC data source instead\n"
          "  --connect <string>      use this ADO connection instead\n"
          "  --component <file>      load this Pelorin.dll, registered or not\n"
-         "  --play                  play one request by itself, then end\n"
+         "  --play                  play one request by itself, then end; over --odbc or --connect "
+         "the\n"
+         "                          database has to hold the demonstration site\n"
+         "  --undo                  remove the rows that the played request wrote there\n"
          "  --out <folder>          where --play leaves its pictures (out)\n"
          "  --pictures <folder>     make pictures of every window, then end\n"
          "  --help                  show this text\n";

@@ -15,6 +15,7 @@ struct Options {
   std::string connectionString;  // for the other two sources
   std::string component;         // the DLL to load, registered or not; empty: look for it
   bool play = false;
+  bool undo = false;                 // removes the rows of a played request
   std::string outputFolder = "out";  // pictures of a played request
   std::string picturesFolder;        // pictures for the documents; empty: none wanted
   bool help = false;

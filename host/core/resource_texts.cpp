@@ -33,7 +33,7 @@ std::string resourceText(std::int32_t id) {
   return found != std::end(texts) ? found->text : "Text " + std::to_string(id);
 }
 
-std::string substitute(std::string_view pattern, std::span<const std::string> texts) {
+std::string substitute(std::string_view pattern, std::span<const std::string> values) {
   std::string result;
   for (std::size_t at = 0; at < pattern.size(); ++at) {
     const char next = at + 1 < pattern.size() ? pattern[at + 1] : '\0';
@@ -44,8 +44,8 @@ std::string substitute(std::string_view pattern, std::span<const std::string> te
     ++at;
     if (next == '%') {
       result += '%';
-    } else if (const auto number = static_cast<std::size_t>(next - '1'); number < texts.size()) {
-      result += texts[number];
+    } else if (const auto number = static_cast<std::size_t>(next - '1'); number < values.size()) {
+      result += values[number];
     }
   }
   return result;

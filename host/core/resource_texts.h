@@ -13,6 +13,6 @@ std::string resourceText(std::int32_t id);
 
 // Puts texts[0] to texts[8] in place of %1 to %9; "%%" is a percent sign. What was put in is not
 // searched again.
-std::string substitute(std::string_view pattern, std::span<const std::string> texts);
+std::string substitute(std::string_view pattern, std::span<const std::string> values);
 
 }  // namespace pelorin::host

@@ -47,7 +47,8 @@ bool isOurs(HWND window) {
   return process == GetCurrentProcessId();
 }
 
-constexpr UINT answerMilliseconds = 5000;
+// A form that is slow to say its name must not pass for a message box.
+constexpr UINT answerMilliseconds = 1000 * UINT{patience.count()};
 
 LRESULT ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   DWORD_PTR answer = 0;
@@ -134,9 +135,9 @@ OpenBox waitForBox() {
   return *waitFor("message box", findBox);
 }
 
-OpenBox answerBox() {
+OpenBox answerBox(int button) {
   OpenBox box = waitForBox();
-  PostMessageW(box.window, WM_COMMAND, IDOK, 0);
+  PostMessageW(box.window, WM_COMMAND, static_cast<WPARAM>(button), 0);
   waitUntilClosed(box.window);
   return box;
 }

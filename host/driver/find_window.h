@@ -35,8 +35,8 @@ struct OpenBox {
 
 // A message box of this process.
 std::optional<OpenBox> findBox();
-// The first one that opens, now or soon; closed by its default button.
+// The first one that opens, now or soon; closed by the button with that number.
 OpenBox waitForBox();
-OpenBox answerBox();
+OpenBox answerBox(int button = IDOK);
 
 }  // namespace pelorin::host

@@ -15,10 +15,6 @@ LPARAM position(POINT point) {
   return MAKELPARAM(point.x, point.y);
 }
 
-POINT middleOf(const RECT& area) {
-  return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
-}
-
 // Handlers may ask where the pointer is.
 void movePointer(HWND window, POINT point) {
   ClientToScreen(window, &point);
@@ -55,6 +51,10 @@ void requireReady(HWND window) {
 }
 
 }  // namespace
+
+POINT middleOf(const RECT& area) {
+  return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+}
 
 void clickAt(HWND window, POINT point) {
   movePointer(window, point);

@@ -9,6 +9,7 @@
 
 namespace pelorin::host {
 
+POINT middleOf(const RECT& area);
 // A point in the window's client area, in pixels.
 void clickAt(HWND window, POINT point);
 void doubleClickAt(HWND window, POINT point);

@@ -40,10 +40,6 @@ RECT textPlace(HWND tree, HTREEITEM node) {
   return place;
 }
 
-POINT middleOf(const RECT& area) {
-  return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
-}
-
 // The mark stands somewhere left of the picture.
 POINT markPlace(HWND tree, HTREEITEM node) {
   const RECT text = textPlace(tree, node);
@@ -99,11 +95,14 @@ HTREEITEM openPath(HWND tree, const std::vector<std::string>& captions) {
 }
 
 void clickNode(HWND tree, HTREEITEM node) {
+  // A tree that scrolls at the click would take it for a click on another node.
+  SendMessageW(tree, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(node));
   clickAt(tree, middleOf(textPlace(tree, node)));
   waitFor("selected node", [&] { return nextItem(tree, nullptr, TVGN_CARET) == node; });
 }
 
 void doubleClickNode(HWND tree, HTREEITEM node) {
+  clickNode(tree, node);
   doubleClickAt(tree, middleOf(textPlace(tree, node)));
 }
 

@@ -27,6 +27,7 @@ class BufferedCursor : public ResultCursor {
     const auto first = source.begin() + static_cast<std::ptrdiff_t>(row_ * width);
     std::move(first, first + static_cast<std::ptrdiff_t>(count * width), std::back_inserter(cells));
     row_ += count;
+    if (count == 0 && results_[result_].error) std::rethrow_exception(results_[result_].error);
     return count;
   }
 
@@ -81,6 +82,15 @@ OdbcResults executeText(const OdbcStatement& statement, std::string_view sql) {
   return readResults(statement, SQLExecDirectW(statement.get(), text.data(), SQL_NTS));
 }
 
+// For who wants no rows: an error behind them counts all the same.
+std::vector<ServerMessage> executeWhole(const OdbcStatement& statement, std::string_view sql) {
+  OdbcResults all = executeText(statement, sql);
+  for (const OdbcResult& result : all.results) {
+    if (result.error) std::rethrow_exception(result.error);
+  }
+  return std::move(all.messages);
+}
+
 }  // namespace
 
 OdbcConnection::OdbcConnection(const std::string& connectionString)
@@ -112,7 +122,7 @@ std::unique_ptr<ResultCursor> OdbcConnection::openResults(std::string_view sql) 
 
 void OdbcConnection::run(std::string_view sql) {
   OdbcStatement statement(session_);
-  messages_ = executeText(statement, sql).messages;
+  messages_ = executeWhole(statement, sql);
 }
 
 void OdbcConnection::call(ProcedureCall& call) {
@@ -122,7 +132,7 @@ void OdbcConnection::call(ProcedureCall& call) {
     bindParameter(statement, static_cast<SQLUSMALLINT>(i + 1), call.parameters[i], bound[i]);
   }
   // Output parameters have their values only after the last result.
-  messages_ = executeText(statement, callSyntax(call)).messages;
+  messages_ = executeWhole(statement, callSyntax(call));
   for (std::size_t i = 0; i < bound.size(); ++i) {
     ProcedureParameter& parameter = call.parameters[i];
     if (parameter.direction == ParameterDirection::Output) {

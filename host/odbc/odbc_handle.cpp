@@ -3,30 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <string>
 
 #include "host/odbc/odbc_text.h"
+#include "site/errors.h"
 
 namespace pelorin::host {
 
 namespace {
-
-// The numbers that programs know from ADO.
-constexpr std::int32_t unspecified = static_cast<std::int32_t>(0x80004005);
-constexpr std::int32_t errorInCommand = static_cast<std::int32_t>(0x80040E14);
-constexpr std::int32_t integrityViolation = static_cast<std::int32_t>(0x80040E2F);
-constexpr std::int32_t dataOverflow = static_cast<std::int32_t>(0x80040E57);
-constexpr std::int32_t loginFailed = static_cast<std::int32_t>(0x80040E4D);
-
-std::int32_t adoNumber(const std::string& sqlState) {
-  if (sqlState.starts_with("23")) return integrityViolation;
-  if (sqlState.starts_with("22")) return dataOverflow;
-  if (sqlState.starts_with("28")) return loginFailed;
-  if (sqlState.starts_with("42") || sqlState.starts_with("37") || sqlState.starts_with("S0")) {
-    return errorInCommand;
-  }
-  return unspecified;
-}
 
 bool readDiagnostic(SQLSMALLINT type, SQLHANDLE handle, SQLSMALLINT record,
                     ServerMessage& message) {
@@ -58,7 +41,8 @@ std::vector<ServerMessage> readDiagnostics(SQLSMALLINT type, SQLHANDLE handle) {
 
 void throwOdbcError(std::vector<ServerMessage> messages) {
   if (messages.empty()) messages.push_back({"The ODBC driver failed without a message.", 0, {}});
-  const std::int32_t number = adoNumber(messages.front().sqlState);
+  const ServerMessage& first = messages.front();
+  const std::int32_t number = site::adoErrorNumber(first.nativeNumber, first.sqlState);
   throw DatabaseError(number, std::move(messages));
 }
 

@@ -148,14 +148,26 @@ Value readCell(const OdbcStatement& statement, SQLUSMALLINT number, Reading read
   return readText(statement, number);
 }
 
+void readRow(const OdbcStatement& statement, const std::vector<Column>& columns,
+             std::vector<Value>& cells) {
+  std::vector<Value> row;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    row.push_back(readCell(statement, static_cast<SQLUSMALLINT>(i + 1), columns[i].reading));
+  }
+  std::move(row.begin(), row.end(), std::back_inserter(cells));
+}
+
+// An error after the first row comes after the rows that were read.
 OdbcResult readResult(const OdbcStatement& statement, const std::vector<Column>& columns) {
   OdbcResult result;
   for (const Column& column : columns) result.columns.push_back(column.name);
-  while (statement.check(SQLFetch(statement.get())) != SQL_NO_DATA) {
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-      result.cells.push_back(
-          readCell(statement, static_cast<SQLUSMALLINT>(i + 1), columns[i].reading));
+  try {
+    while (statement.check(SQLFetch(statement.get())) != SQL_NO_DATA) {
+      readRow(statement, columns, result.cells);
     }
+  } catch (const RunTimeError&) {
+    if (result.cells.empty()) throw;
+    result.error = std::current_exception();
   }
   return result;
 }
@@ -182,6 +194,7 @@ OdbcResults readResults(const OdbcStatement& statement, SQLRETURN executed) {
     const std::vector<Column> columns = describeColumns(statement);
     if (!columns.empty()) {
       all.results.push_back(readResult(statement, columns));
+      if (all.results.back().error) break;
     } else if (countsRows(statement)) {
       all.results.emplace_back();
     }

@@ -1,6 +1,7 @@
 // Reads all results of an executed ODBC statement into memory.
 #pragma once
 
+#include <exception>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@ namespace pelorin::host {
 struct OdbcResult {
   std::vector<std::string> columns;  // none: a statement that returns no rows
   std::vector<Value> cells;          // row after row
+  std::exception_ptr error;          // that came after these rows
 };
 
 struct OdbcResults {

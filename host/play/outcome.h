@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "host/core/played_rows.h"
 #include "host/play/stage.h"
 #include "host/play/typical_request.h"
 
@@ -14,15 +15,17 @@ namespace pelorin::host {
 struct Standing {
   std::size_t statements = 0;
   std::size_t records = 0;
-  std::set<std::string> triggers;  // keys of the CCTV triggers in the database
+  std::set<std::int32_t> triggers;  // numbers of the CCTV triggers in the database
 };
 
-// `file` is the database.
-Standing standing(const Stage& stage, const std::string& file);
+Standing standing(const Stage& stage);
 
 // Tells what was sent and logged since then and what the summary showed; the differences from what
 // is expected, none when all is well.
 std::vector<std::string> tellOutcome(const Stage& stage, const Standing& before,
-                                     const SummaryRows& rows, const std::string& file);
+                                     const SummaryRows& rows);
+
+// The rows that the request wrote and that are in the database now, read anew.
+std::vector<PlayedRow> rowsWritten(const Stage& stage, const Standing& before);
 
 }  // namespace pelorin::host

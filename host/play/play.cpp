@@ -5,9 +5,8 @@
 #include <optional>
 #include <thread>
 
-#include "host/play/outcome.h"
 #include "host/play/picture_tour.h"
-#include "host/play/typical_request.h"
+#include "host/play/played_request.h"
 #include "host/window/main_window.h"
 #include "host/window/message_loop.h"
 #include "host/window/output.h"
@@ -38,22 +37,14 @@ class TemporaryDatabase {
   std::wstring file_;
 };
 
-bool playAndCheck(Stage& stage, const std::string& file) {
-  const Standing before = standing(stage, file);
-  const SummaryRows rows = playTypicalRequest(stage);
-  const std::vector<std::string> faults = tellOutcome(stage, before, rows, file);
-  for (const std::string& fault : faults) printError("FAILED: " + fault);
-  if (faults.empty()) stage.tell("\nAll as expected.");
-  return faults.empty();
-}
-
 int playOn(const UiCalls& ui, MainWindow& window, const Options& options) noexcept {
   try {
     const bool documents = !options.picturesFolder.empty();
     const std::string suffix = documents ? "-" + std::to_string(scaled(96)) : std::string();
     Stage stage(ui, window.session(), window.handle(),
                 documents ? options.picturesFolder : options.outputFolder, suffix, printLine);
-    const bool allWell = playAndCheck(stage, options.database);
+    const bool own = options.source == Source::EmbeddedDatabase;
+    const bool allWell = own ? playOnOwnDatabase(stage) : playOnServer(stage, options.undo);
     if (documents) makePictureTour(stage);
     return allWell ? 0 : 1;
   } catch (const std::exception& error) {
@@ -67,7 +58,7 @@ int playOn(const UiCalls& ui, MainWindow& window, const Options& options) noexce
 int play(const Options& options) {
   const TemporaryDatabase database;
   Options own = options;
-  own.database = database.path();
+  if (own.source == Source::EmbeddedDatabase) own.database = database.path();
   MainWindow window(own);
   ShowWindow(window.handle(), SW_SHOWNORMAL);
   std::optional<UiCalls> ui(std::in_place);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/core/played_rows.h"
 #include "host/driver/find_window.h"
 #include "host/driver/operate.h"
 #include "host/driver/tree.h"
@@ -14,8 +15,6 @@ namespace {
 
 constexpr const char* category = "Alarm";
 constexpr const char* eventNumbers[] = {"00001", "00002"};
-constexpr const char* doors[] = {"Revolving door", "Visitor gate"};
-constexpr const char* switcherName = "Main building switcher";
 constexpr const char* cameraName = "Revolving door";
 constexpr const char* monitorName = "2";
 
@@ -73,7 +72,7 @@ HWND openPicker(Stage& stage, HWND editor) {
 void chooseDoors(Stage& stage, HWND editor, HWND picker) {
   const HWND tree = control(picker, "tvTree");
   const HWND locations = control(editor, "lvwLocation");
-  for (const char* door : doors) {
+  for (const char* door : typical::doors) {
     const int before = rowCount(locations);
     doubleClickNode(
         tree, openPath(tree, {" Hardware", " Lumet Configuration (HEADOFFICE)",
@@ -98,7 +97,7 @@ void chooseAction(Stage& stage, HWND editor) {
     stage.step(std::string(combo) + ": \"" + text + "\" chosen");
   };
   choose("cmbActionDeviceClass", "CCTV");
-  choose("cmbCCTVSwitchers", switcherName);
+  choose("cmbCCTVSwitchers", typical::switcherName);
   choose("cmbCCTVMonitors", monitorName);
   choose("cmbCCTVCameras", cameraName);
 }

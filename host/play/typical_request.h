@@ -19,13 +19,4 @@ struct SummaryRows {
 // DriverError when a window does not do what is expected of it.
 SummaryRows playTypicalRequest(Stage& stage);
 
-// What the request is about, for those who check the outcome.
-namespace typical {
-inline constexpr const char* addresses[] = {"001.01.001.D02", "001.01.001.D03"};
-inline constexpr int events[] = {1, 2};
-inline constexpr int switcher = 1;
-inline constexpr int camera = 3;
-inline constexpr int monitor = 2;
-}  // namespace typical
-
 }  // namespace pelorin::host

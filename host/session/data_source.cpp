@@ -10,6 +10,7 @@
 #include "host/odbc/odbc_connection.h"
 #include "host/windows_api.h"
 #include "site/site_database.h"
+#include "win32/com/ado_connection.h"
 #include "win32/com/com_error.h"
 #include "win32/com/late_bound.h"
 #include "win32/text/utf16.h"
@@ -26,13 +27,22 @@ SiteDatabase openOrCreate(const std::string& file) {
   return exists(file) ? SiteDatabase::open(file) : SiteDatabase::create(file, demonstrationSite);
 }
 
-std::shared_ptr<ResultConnection> connectOdbc(const std::string& connectionString) {
-  return std::make_shared<OdbcConnection>(connectionString);
+ComPtr<IDispatch> connectAdo(const std::string& connectionString) {
+  ComPtr<IDispatch> connection;
+  check(CoCreateInstance(ado::connectionClass, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+                         connection.putVoid()));
+  LateBound(connection).call(L"Open", {Variant::text(connectionString)});
+  return connection;
 }
 
 }  // namespace
 
-DataSource DataSource::open(const Options& options, std::shared_ptr<StatementLog> log) {
+std::shared_ptr<ResultConnection> connectOdbc(const std::string& connectionString) {
+  return std::make_shared<OdbcConnection>(connectionString);
+}
+
+DataSource DataSource::open(const Options& options, std::shared_ptr<StatementLog> log,
+                            const OpenConnection& odbc) {
   DataSource source;
   switch (options.source) {
     case Source::EmbeddedDatabase:
@@ -40,7 +50,7 @@ DataSource DataSource::open(const Options& options, std::shared_ptr<StatementLog
                           std::move(log));
       break;
     case Source::OdbcDataSource:
-      source.openOdbc(options.connectionString, std::move(log));
+      source.openOdbc(options.connectionString, std::move(log), odbc);
       break;
     case Source::AdoConnection:
       source.openAdo(options.connectionString);
@@ -59,20 +69,28 @@ void DataSource::openEmbedded(const std::string& file, std::shared_ptr<Statement
   const SiteDatabase site = openOrCreate(file);
   name_ = file;
   embedded_ = true;
+  another_ = [file]() -> std::shared_ptr<Connection> { return SiteDatabase::open(file).connect(); };
   audit_ = std::make_unique<AuditTrail>(site.auditLog());
   offer(std::make_shared<EmbeddedConnection>(site.session()), std::move(log));
 }
 
-void DataSource::openOdbc(const std::string& connectionString, std::shared_ptr<StatementLog> log) {
+void DataSource::openOdbc(const std::string& connectionString, std::shared_ptr<StatementLog> log,
+                          const OpenConnection& odbc) {
   name_ = "ODBC data source";
-  offer(connectOdbc(connectionString), std::move(log));
+  another_ = [odbc, connectionString] { return odbc(connectionString); };
+  std::shared_ptr<ResultConnection> connection = odbc(connectionString);
+  // What the host itself writes is not among the component's statements.
+  audit_ = std::make_unique<AuditTrail>(AuditTable(connection));
+  offer(std::move(connection), std::move(log));
 }
 
 void DataSource::openAdo(const std::string& connectionString) {
   name_ = "ADO connection";
-  check(CoCreateInstance(ado::connectionClass, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
-                         ado_.putVoid()));
-  LateBound(ado_).call(L"Open", {Variant::text(connectionString)});
+  another_ = [connectionString]() -> std::shared_ptr<Connection> {
+    return std::make_shared<AdoConnection>(connectAdo(connectionString));
+  };
+  ado_ = connectAdo(connectionString);
+  audit_ = std::make_unique<AuditTrail>(AuditTable(std::make_shared<AdoConnection>(ado_)));
 }
 
 std::string defaultDatabase() {

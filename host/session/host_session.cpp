@@ -5,19 +5,11 @@
 #include "host/ado/ado_command_object.h"
 #include "host/ado/ado_enums.h"
 #include "host/ado/ado_recordset_object.h"
-#include "host/odbc/odbc_connection.h"
 #include "host/session/window_object.h"
 
 namespace pelorin::host {
 
 namespace {
-
-ComPtr<IDispatch> newConnection() {
-  const OpenConnection open = [](const std::string& connectionString) {
-    return std::make_shared<OdbcConnection>(connectionString);
-  };
-  return ComPtr<IDispatch>(makeObject<AdoConnectionObject>(open, nullptr, std::string()).get());
-}
 
 template <class Object>
 ComPtr<IDispatch> newObject() {
@@ -26,12 +18,13 @@ ComPtr<IDispatch> newObject() {
 
 }  // namespace
 
-HostSession::HostSession(HWND window, Options options, ShowHelp showHelp)
+HostSession::HostSession(HWND window, Options options, ShowHelp showHelp, OpenConnection odbc)
     : options_(std::move(options)),
+      odbc_(std::move(odbc)),
       window_(makeObject<WindowObject>(window).get()),
       services_(makeObject<ServicesObject>(state_).get()) {
   state_->showHelp = std::move(showHelp);
-  use(DataSource::open(options_, statements_));
+  use(DataSource::open(options_, statements_, odbc_));
   if (options_.source != Source::AdoConnection) offerClasses();
 }
 
@@ -45,7 +38,9 @@ void HostSession::offerClasses() {
   const auto offer = [this](const CLSID& id, ClassFactory::Create create) {
     classes_.push_back(std::make_unique<ClassRegistration>(id, std::move(create)));
   };
-  offer(ado::connectionClass, newConnection);
+  offer(ado::connectionClass, [odbc = odbc_] {
+    return ComPtr<IDispatch>(makeObject<AdoConnectionObject>(odbc, nullptr, std::string()).get());
+  });
   offer(ado::recordsetClass, newObject<AdoRecordsetObject>);
   offer(ado::commandClass, newObject<AdoCommandObject>);
 }
@@ -65,7 +60,7 @@ void HostSession::useDatabase(const std::string& file) {
   Options chosen = options_;
   chosen.source = Source::EmbeddedDatabase;
   chosen.database = file;
-  use(DataSource::open(chosen, statements_));
+  use(DataSource::open(chosen, statements_, odbc_));
   options_ = chosen;
   if (classes_.empty()) offerClasses();
 }

@@ -26,7 +26,7 @@ class HostSession {
   using ShowHelp = std::function<void(std::int16_t topic)>;
 
   // Opens the database; RunTimeError with a sentence for the user when that fails.
-  HostSession(HWND window, Options options, ShowHelp showHelp);
+  HostSession(HWND window, Options options, ShowHelp showHelp, OpenConnection odbc = connectOdbc);
   HostSession(const HostSession&) = delete;
   HostSession& operator=(const HostSession&) = delete;
   ~HostSession();
@@ -54,6 +54,7 @@ class HostSession {
   void offerClasses();
 
   Options options_;
+  OpenConnection odbc_;
   std::shared_ptr<StatementLog> statements_ = std::make_shared<StatementLog>();
   std::shared_ptr<HostState> state_ = std::make_shared<HostState>();
   ComPtr<IDispatch> window_;

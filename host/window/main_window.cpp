@@ -30,12 +30,12 @@ constexpr Switch switches[] = {
 
 }  // namespace
 
-MainWindow::MainWindow(const Options& options) {
+MainWindow::MainWindow(const Options& options, OpenConnection odbc) {
   const HMENU menu = LoadMenuW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDR_MENU));
   create({className, programTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, {940, 640}}, nullptr,
          menu);
-  session_ = std::make_unique<HostSession>(handle(), options,
-                                           [this](std::int16_t topic) { showHelp(topic); });
+  session_ = std::make_unique<HostSession>(
+      handle(), options, [this](std::int16_t topic) { showHelp(topic); }, std::move(odbc));
   makeControls();
   session_->statements().onChange = [this] { scheduleRefresh(); };
   session_->onAudit = [this] { scheduleRefresh(); };

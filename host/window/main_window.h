@@ -18,7 +18,7 @@ class MainWindow : public Window {
   static constexpr wchar_t className[] = L"PelorinHostMain";
 
   // RunTimeError with a sentence for the user when the database cannot be used.
-  explicit MainWindow(const Options& options);
+  explicit MainWindow(const Options& options, OpenConnection odbc = connectOdbc);
   MainWindow(const MainWindow&) = delete;
   MainWindow& operator=(const MainWindow&) = delete;
   ~MainWindow() override;

@@ -8,7 +8,7 @@ namespace pelorin::host {
 
 namespace {
 
-constexpr int gap = 8;
+constexpr int spacing = 8;
 constexpr int buttonWidth = 150;
 constexpr int buttonHeight = 28;
 constexpr int switchWidths[] = {100, 130, 180};
@@ -37,22 +37,22 @@ RECT MainWindow::listArea() const {
   RECT bar{};
   GetClientRect(handle(), &area);
   GetWindowRect(status_, &bar);
-  InflateRect(&area, -scaled(gap), 0);
-  area.top += scaled(buttonHeight) + 2 * scaled(gap);
-  area.bottom -= bar.bottom - bar.top + scaled(gap);
+  InflateRect(&area, -scaled(spacing), 0);
+  area.top += scaled(buttonHeight) + 2 * scaled(spacing);
+  area.bottom -= bar.bottom - bar.top + scaled(spacing);
   return area;
 }
 
 int MainWindow::splitterTop() const {
   const RECT area = listArea();
-  return area.top + static_cast<int>((area.bottom - area.top - scaled(gap)) * share_);
+  return area.top + static_cast<int>((area.bottom - area.top - scaled(spacing)) * share_);
 }
 
 void MainWindow::layOut() const {
   if (status_ == nullptr) return;
   SendMessageW(status_, WM_SIZE, 0, 0);
   const RECT area = listArea();
-  const int space = scaled(gap);
+  const int space = scaled(spacing);
   const int width = area.right - area.left;
   setStatusParts(status_, width);
   place(open_, area.left, space, scaled(buttonWidth), scaled(buttonHeight));
@@ -75,7 +75,7 @@ bool MainWindow::drag(UINT message, LPARAM lParam) {
   if (status_ == nullptr) return false;
   const int y = GET_Y_LPARAM(lParam);
   const int top = splitterTop();
-  const bool over = y >= top && y < top + scaled(gap);
+  const bool over = y >= top && y < top + scaled(spacing);
   if (message == WM_LBUTTONDOWN && over) {
     dragging_ = true;
     SetCapture(handle());

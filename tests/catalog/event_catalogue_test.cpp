@@ -82,6 +82,21 @@ TEST_F(EventTypeArrayTest, LoadingAgainStartsAnew) {
   EXPECT_FALSE(catalogue.records()[0].EventsLoaded);
 }
 
+// The host handles messages inside the statement and lets the operator open the tool again.
+TEST_F(EventTypeArrayTest, FilledAgainInTheMiddleOfAFillingItHoldsTheRowsOfBoth) {
+  database.onStatement = [this](const std::string&) {
+    database.onStatement = nullptr;
+    answerTypes({eventType("Door", 0, "DoorEvents", 0, 999)});
+    catalogue.InitEventTypeInfoArray();
+    EXPECT_THAT(catalogue.records(), SizeIs(2));
+    answerTypes(manyTypes(51));
+  };
+  catalogue.InitEventTypeInfoArray();
+  EXPECT_THAT(boxes(), IsEmpty());
+  ASSERT_THAT(catalogue.records(), SizeIs(52));
+  EXPECT_EQ(catalogue.records()[50].FilterType, "Type50");
+}
+
 TEST_F(EventTypeArrayTest, HoldsFiftyOneTypes) {
   answerTypes(manyTypes(51));
   catalogue.InitEventTypeInfoArray();
@@ -130,6 +145,14 @@ TEST_F(EventTypeArrayTest, RangeBeyondTheWidthIsReportedAndKeepsTheRowsBefore) {
   EXPECT_EQ(catalogue.records()[0].FilterType, "Door");
 }
 
+TEST_F(EventTypeArrayTest, OverALostConnectionIsNotReportedAgain) {
+  const Act act(surroundings.screen.acts());
+  database.lose(typesQuery);
+  catalogue.InitEventTypeInfoArray();
+  catalogue.InitEventTypeInfoArray();
+  EXPECT_THAT(boxes(), SizeIs(1));
+}
+
 TEST_F(EventTypeArrayTest, WithoutConnectionIsReported) {
   module.setDBConnection(nullptr);
   catalogue.InitEventTypeInfoArray();
@@ -173,7 +196,7 @@ TEST_F(FilterListTest, FiltersAboveSevenNeedTheNewerHardware) {
 
 TEST_F(FilterListTest, NewerHardwareOffersAllWithTheirNumbers) {
   services.newerHardware = true;
-  catalogue.LoadFilterList(list);
+  EXPECT_TRUE(catalogue.LoadFilterList(list));
   EXPECT_THAT(texts(),
               ElementsAre("Door Events", "System Events", "Zorn Events", "Zorn system Events"));
   EXPECT_EQ(list.row(1).itemData, 7);
@@ -182,7 +205,7 @@ TEST_F(FilterListTest, NewerHardwareOffersAllWithTheirNumbers) {
 
 TEST_F(FilterListTest, FailingStatementIsReported) {
   database.fail(filtersQuery);
-  catalogue.LoadFilterList(list);
+  EXPECT_FALSE(catalogue.LoadFilterList(list));
   EXPECT_THAT(
       boxes(),
       ElementsAre(MatchesRegex("Module1.LoadFilterList: Line: [1-9][0-9]* :statement failed")));
@@ -198,7 +221,7 @@ TEST_F(FilterListTest, FailingHostIsReportedAndAsksNoDatabase) {
 
 TEST_F(FilterListTest, FailingFetchKeepsTheRowsAddedSoFar) {
   database.failFetch(filtersQuery, 1);
-  catalogue.LoadFilterList(list);
+  EXPECT_FALSE(catalogue.LoadFilterList(list));
   EXPECT_THAT(boxes(), SizeIs(1));
   EXPECT_THAT(texts(), ElementsAre("Door Events"));
   EXPECT_EQ(database.openCursors(), 0);

@@ -211,6 +211,13 @@ TEST_F(FilterLookupTest, FailingZornQueryIsReportedAndZero) {
       ElementsAre(MatchesRegex("Module1.ZornGetFilterIndexByEventID: Line: [1-9][0-9]* :.*")));
 }
 
+TEST_F(FilterLookupTest, WhatCouldNotBeReadIsToldFromNoFilter) {
+  EXPECT_EQ(catalogue.findFilter(80005), std::int16_t{0});
+  database.fail(zornTypeQuery(80005));
+  EXPECT_EQ(catalogue.findFilter(80005), std::nullopt);
+  EXPECT_EQ(catalogue.findFilter(4000), std::int16_t{0});
+}
+
 TEST_F(FilterLookupTest, ZornEventTypesHaveTheirFilters) {
   const std::map<int, int> filters = {{20, 8}, {21, 9}, {22, 10}, {24, 11}, {25, 12}};
   for (int type = -1; type <= 30; ++type) {
@@ -230,12 +237,12 @@ TEST_F(FilterLookupTest, FilterTypeOfAnUnknownFilterIsEmpty) {
   EXPECT_EQ(catalogue.GetFilterTypeByFilterIndex(9), "");
 }
 
-TEST_F(FilterLookupTest, ElementsWithoutATableAreSkipped) {
+TEST_F(FilterLookupTest, AnElementWithoutATableIsSkippedOnlyWhereTheTableIsNeeded) {
   answerTypes({{"Nameless", std::int64_t{5}, Null{}, std::int64_t{0}, std::int64_t{99}},
                eventType("Door", 6, "DoorEvents", 0, 99)});
   catalogue.InitEventTypeInfoArray();
-  EXPECT_EQ(catalogue.GetFilterIndexByEventID(42), 6);
-  EXPECT_EQ(catalogue.GetFilterTypeByFilterIndex(5), "");
+  EXPECT_EQ(catalogue.GetFilterIndexByEventID(42), 5);
+  EXPECT_EQ(catalogue.GetFilterTypeByFilterIndex(5), "Nameless");
   surroundings.journal.clear();
   catalogue.GetEventDescription(42);
   EXPECT_THAT(database.statements(), ElementsAre(descriptionQuery("DoorEvents", 42)));

@@ -204,6 +204,62 @@ TEST_F(RecordSetTest, RowsBeforeAFailingFetchAreRead) {
   EXPECT_EQ(error->description(), "fetch failed");
 }
 
+TEST_F(RecordSetTest, RowsOfALostBlockAreNotReadButThoseBeforeIt) {
+  answerRows(900);
+  database.loseBlock(sql, 700);
+  for (const bool drained : {false, true}) {
+    RecordSet rows = database.open(sql);
+    if (drained) rows.drain();
+    int read = 0;
+    const auto error = errorOf([&] {
+      while (rows.next()) ++read;
+    });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(read, 500);
+    EXPECT_EQ(database.openCursors(), 0);
+  }
+}
+
+// Breaks off in the middle of its second row.
+class BrokenOffCursor : public Cursor {
+ public:
+  const std::vector<std::string>& columns() const override { return columns_; }
+  std::size_t fetch(std::size_t, std::vector<Value>& cells) override {
+    cells.insert(cells.end(), {std::int64_t{1}, std::string("one"), std::int64_t{2}});
+    throw RunTimeError(5, "broken off");
+  }
+
+ private:
+  std::vector<std::string> columns_{"ID", "Name"};
+};
+
+TEST_F(RecordSetTest, RowThatBrokeOffIsDropped) {
+  RecordSet rows(std::make_unique<BrokenOffCursor>());
+  ASSERT_TRUE(rows.next());
+  EXPECT_EQ(rows.text("Name"), "one");
+  EXPECT_EQ(errorOf([&] { rows.next(); })->description(), "broken off");
+  EXPECT_FALSE(rows.next());
+}
+
+TEST_F(RecordSetTest, CellOfAnUnknownTypeIsAnErrorOfWhoReadsIt) {
+  database.answer(sql, {{"ID", "Shape"}, {{std::int64_t{1}, Unreadable{}}}});
+  RecordSet rows = database.open(sql);
+  ASSERT_TRUE(rows.next());
+  EXPECT_EQ(rows.int32("ID"), 1);
+  std::uint32_t line = 0;
+  const auto text = errorOf([&] {
+    line = __LINE__ + 1;
+    rows.text("Shape");
+  });
+  ASSERT_TRUE(text);
+  EXPECT_EQ(text->number(), 13);
+  EXPECT_EQ(text->line(), line);
+  EXPECT_EQ(errorOf([&] { rows.int32("Shape"); })->number(), 13);
+  EXPECT_EQ(errorOf([&] { rows.real("Shape"); })->number(), 13);
+  EXPECT_EQ(errorOf([&] { rows.boolean("Shape"); })->number(), 13);
+  EXPECT_FALSE(isNull(rows.value("Shape")));
+}
+
 TEST_F(RecordSetTest, CanBeHandedOn) {
   answerRows(2);
   RecordSet first = database.open(sql);

@@ -107,12 +107,6 @@ TEST_F(ReportTest, BoxThatCannotBeShownLetsNothingOut) {
   EXPECT_EQ(environment.lines.size(), 1U);
 }
 
-TEST_F(ReportTest, ReportsAreCounted) {
-  EXPECT_EQ(module.reportCount(), 0U);
-  module.ReportError("Module1.GetRTNEvent", error);
-  EXPECT_EQ(module.reportCount(), 1U);
-}
-
 TEST_F(ReportTest, InformationHasItsIconAndOk) {
   module.inform("Please select a location.");
   ASSERT_EQ(screen.boxes.size(), 1U);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "tests/fakes/recording_screen.h"
 
 namespace pelorin::test {
@@ -123,6 +125,15 @@ TEST_F(FormActs, AResizeIsRaisedWhenTheSizeReallyChanges) {
   form.userResize({1001, 500});
   EXPECT_EQ(form.events, Events{"resize"});
   EXPECT_EQ(form.client(), (Size{1001, 500}));
+}
+
+TEST_F(FormActs, ASizeBeyondAnyScreenIsOneThatCanBeReckonedWith) {
+  constexpr int huge = std::numeric_limits<int>::max();
+  form.userResize({huge, huge});
+  EXPECT_GE(form.client().width, 500000);
+  EXPECT_LT(form.client().width, huge / 1440);
+  form.userResize({-1, -huge});
+  EXPECT_EQ(form.client(), (Size{0, 0}));
 }
 
 TEST_F(FormActs, TheCaptionIsShownWhenItChanges) {

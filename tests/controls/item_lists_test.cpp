@@ -67,6 +67,18 @@ TEST_F(Combo, ClearingSelectsNothingWithoutAClick) {
   EXPECT_EQ(clicks, 0);
 }
 
+TEST_F(Combo, TheOperatorsChoiceAlwaysRaisesTheClick) {
+  combo.userSelect(1);
+  combo.userSelect(1);
+  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(combo.listIndex(), 1);
+}
+
+TEST_F(Combo, NoRowIsNoChoiceOfTheOperator) {
+  combo.userSelect(-1);
+  EXPECT_EQ(clicks, 0);
+}
+
 TEST_F(Combo, TheOperatorCannotPickWhileItIsDisabled) {
   combo.setEnabled(false);
   combo.userSelect(1);

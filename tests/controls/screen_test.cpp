@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "tests/fakes/recording_screen.h"
 
@@ -23,9 +24,13 @@ class NotingForm : public Form {
     if (whileLoading) whileLoading();
   }
   void Form_Activate() override { note("activate"); }
-  void Form_Unload() override { note("unload"); }
+  void Form_Unload() override {
+    note("unload");
+    if (whileUnloading) whileUnloading();
+  }
 
   std::function<void()> whileLoading;
+  std::function<void()> whileUnloading;
 
  private:
   void note(const std::string& event) { events_.push_back(event + " " + name()); }
@@ -74,6 +79,17 @@ TEST_F(Screens, AFormUnloadedWhileItLoadsIsNotPresented) {
   EXPECT_EQ(screen.windowEvents, (Events{"create summary", "destroy summary"}));
 }
 
+TEST_F(Screens, AFormThatIsNotOwnedYetGoesWithItsLeader) {
+  screen.show(summary, 7);
+  screen.show(editor, screen.windowOf(summary));
+  picker.setLeader(editor.hwnd());
+  picker.whileLoading = [&] { summary.unload(); };
+  screen.show(picker);
+  EXPECT_EQ(screen.windowEvents.back(), "destroy summary");
+  EXPECT_EQ(events.back(), "unload summary");
+  EXPECT_FALSE(picker.isOpen());
+}
+
 TEST_F(Screens, AnOwnerUnloadsWhatItOwnsInnermostFirst) {
   openAll();
   summary.unload();
@@ -86,6 +102,36 @@ TEST_F(Screens, WhatIsNotOwnedStaysOpen) {
   editor.unload();
   EXPECT_EQ(events, (Events{"unload picker", "unload editor"}));
   EXPECT_TRUE(summary.isOpen());
+}
+
+TEST_F(Screens, TheInnermostWindowIsTheOneInFrontOfAllThatAFormOwns) {
+  EXPECT_EQ(screen.innermostOwnedBy(summary), nullptr) << "a closed form owns none";
+  openAll();
+  EXPECT_EQ(screen.innermostOwnedBy(summary), &picker);
+  EXPECT_EQ(screen.innermostOwnedBy(editor), &picker);
+  EXPECT_EQ(screen.innermostOwnedBy(picker), nullptr);
+  picker.unload();
+  EXPECT_EQ(screen.innermostOwnedBy(summary), &editor);
+}
+
+TEST_F(Screens, AnUnloadThatFailsCanBeTriedAgain) {
+  screen.show(summary);
+  summary.whileUnloading = [] { throw std::runtime_error("not now"); };
+  EXPECT_THROW(summary.unload(), std::runtime_error);
+  summary.whileUnloading = nullptr;
+  summary.unload();
+  EXPECT_FALSE(summary.isOpen());
+}
+
+TEST_F(Screens, AnActEndsOnceHoweverManyAreInIt) {
+  int ended = 0;
+  screen.acts().onEnded = [&ended] { ++ended; };
+  {
+    const Act click(screen.acts());
+    const Act inner(screen.acts());
+    EXPECT_EQ(ended, 0);
+  }
+  EXPECT_EQ(ended, 1);
 }
 
 TEST_F(Screens, AFormIsUnloadedOnce) {

@@ -85,4 +85,13 @@ TEST(TextBox, ValidatesWhenItIsLeft) {
   EXPECT_EQ(validated, 1);
 }
 
+TEST(TextBox, NeverValidatesWhileItIsDisabled) {
+  TextBox box("txt", {});
+  int validated = 0;
+  box.onValidate = [&] { ++validated; };
+  box.setEnabled(false);
+  box.userLeave();
+  EXPECT_EQ(validated, 0);
+}
+
 }  // namespace pelorin::test

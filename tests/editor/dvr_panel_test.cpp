@@ -229,13 +229,12 @@ TEST_F(DvrPanelTest, ANumberOfAnyLengthIsClampedWithoutAnError) {
   EXPECT_TRUE(screen.boxes.empty());
 }
 
-struct FailingStatement {
+struct FailingQuery {
   std::string sql;
   std::string procedure;
 };
 
-class DvrPanelErrors : public DvrPanelTest,
-                       public ::testing::WithParamInterface<FailingStatement> {};
+class DvrPanelErrors : public DvrPanelTest, public ::testing::WithParamInterface<FailingQuery> {};
 
 TEST_P(DvrPanelErrors, AreReportedOnceUnderTheProceduresName) {
   database->fail(GetParam().sql, "broken");
@@ -249,20 +248,20 @@ TEST_P(DvrPanelErrors, AreReportedOnceUnderTheProceduresName) {
 INSTANTIATE_TEST_SUITE_P(
     Statements, DvrPanelErrors,
     ::testing::Values(
-        FailingStatement{"select ID, DVRName from DVR_Config", "frmTriggerAction.LoadDVRUnitCombo"},
-        FailingStatement{"select CameraIndex, CameraName from DVR_Cameras where ID_DVR_Config = 21 "
-                         "order by CameraIndex",
-                         "frmTriggerAction.LoadDVRCameraCombo"},
-        FailingStatement{"select ID, PresetName from DVR_PTZ_Preset where ID_DVR_Config = 21 And "
-                         "CameraIndex = 1 order by PresetName",
-                         "frmTriggerAction.LoadDVRCameraPresets"},
-        FailingStatement{"exec WOL_Roles_Fetch_Cached_Commandsets @operatorid=7, @workstationid=3",
-                         "frmTriggerAction.LoadCommandSetCombo"},
-        FailingStatement{"EXECUTE DVR_Getvendorinfo 21", "frmTriggerAction.ConfigureFormByVendor"},
-        FailingStatement{"select ID, Description from DVR_ViewGroups order by Description",
-                         "frmTriggerAction.LoadDVRVideoExplorerGroups"},
-        FailingStatement{"select * from DVR_TriggerActions (NOLOCK) where DVRActionID = 0",
-                         "frmTriggerAction.LoadDVRAction"}));
+        FailingQuery{"select ID, DVRName from DVR_Config", "frmTriggerAction.LoadDVRUnitCombo"},
+        FailingQuery{"select CameraIndex, CameraName from DVR_Cameras where ID_DVR_Config = 21 "
+                     "order by CameraIndex",
+                     "frmTriggerAction.LoadDVRCameraCombo"},
+        FailingQuery{"select ID, PresetName from DVR_PTZ_Preset where ID_DVR_Config = 21 And "
+                     "CameraIndex = 1 order by PresetName",
+                     "frmTriggerAction.LoadDVRCameraPresets"},
+        FailingQuery{"exec WOL_Roles_Fetch_Cached_Commandsets @operatorid=7, @workstationid=3",
+                     "frmTriggerAction.LoadCommandSetCombo"},
+        FailingQuery{"EXECUTE DVR_Getvendorinfo 21", "frmTriggerAction.ConfigureFormByVendor"},
+        FailingQuery{"select ID, Description from DVR_ViewGroups order by Description",
+                     "frmTriggerAction.LoadDVRVideoExplorerGroups"},
+        FailingQuery{"select * from DVR_TriggerActions (NOLOCK) where DVRActionID = 0",
+                     "frmTriggerAction.LoadDVRAction"}));
 
 TEST_F(DvrPanelTest, AHostWithoutOperatorIsReportedByTheCommandSets) {
   services->failing.insert("OperatorID");
@@ -280,12 +279,14 @@ TEST_F(DvrPanelTest, UnitsThatFailHalfwayAreNoLongerBeingLoaded) {
   EXPECT_THAT(texts(panel.cmbDVRCamera), ElementsAre("Lobby", "Hall"));
 }
 
-TEST_F(DvrPanelTest, AFailingVendorIsNotThePreviousRecordersVendor) {
+TEST_F(DvrPanelTest, AFailingVendorQueryKeepsTheVendorThatWasKnown) {
   panel.LoadDVRAction(0);
   panel.cmbDVRUnit.userSelect(1);
   database->fail("EXECUTE DVR_Getvendorinfo 21");
   panel.cmbDVRUnit.userSelect(0);
-  EXPECT_EQ(panel.vendorType(), 0);
+  EXPECT_EQ(panel.vendorType(), 4);
+  EXPECT_FALSE(panel.txtDVRAlarmDuration.enabled());
+  EXPECT_EQ(panel.txtDVRAlarmDuration.text(), "0");
 }
 
 }  // namespace

@@ -19,6 +19,10 @@ bool overlap(const Place& a, const Place& b) {
          b.top < a.top + a.height;
 }
 
+bool seenInFront(const Control& control) {
+  return control.visible() && !control.covered();
+}
+
 class EditorLayoutTest : public EditorTest {
  protected:
   void openInEveryMode(const std::function<void()>& check) {
@@ -61,7 +65,7 @@ TEST_F(EditorLayoutTest, VisibleControlsOfOnePageDoNotOverlap) {
     const auto& all = editor->controls();
     for (std::size_t i = 0; i < all.size(); ++i) {
       for (std::size_t j = i + 1; j < all.size(); ++j) {
-        if (!all[i]->visible() || !all[j]->visible()) continue;
+        if (!seenInFront(*all[i]) || !seenInFront(*all[j])) continue;
         if (all[i]->container() != all[j]->container() || all[i]->page() != all[j]->page())
           continue;
         EXPECT_FALSE(overlap(all[i]->place(), all[j]->place()))

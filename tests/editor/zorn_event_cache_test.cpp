@@ -26,6 +26,15 @@ TEST_F(ZornEventCacheTest, CountsThenReadsAllDefinitions) {
   EXPECT_EQ(database->mostOpenCursors(), 1);
 }
 
+TEST_F(ZornEventCacheTest, MemoryIsNotTakenForWhatACountPromises) {
+  database->answer("select count(EventID) from Zorn_EventDefinitions",
+                   {{""}, {{std::int64_t{2147483647}}}});
+  load();
+  show(8);
+  EXPECT_THAT(screen.boxes, ::testing::IsEmpty());
+  EXPECT_EQ(events.count(), 2);
+}
+
 TEST_F(ZornEventCacheTest, AppendsTheCategorysEventsTaggedWithTheirNumber) {
   load();
   events.add(0, {"", "Door", {"99999", "later"}, ""});

@@ -19,13 +19,28 @@ std::string FakeEnvironment::privateProfileString(const std::string& section,
 
 std::string FakeEnvironment::readFile(const std::string& path) const {
   const auto found = files.find(path);
-  if (found == files.end()) throw RunTimeError(53, "File not found");
+  requireReadable(path, found != files.end());
   return found->second;
 }
 
-void FakeEnvironment::writeFile(const std::string& path, const std::string& bytes) {
-  if (!canWrite) throw RunTimeError(75, "Path/File access error");
-  files[path] = bytes;
+Picture FakeEnvironment::readPicture(const std::string& path) const {
+  const auto found = pictures.find(path);
+  requireReadable(path, found != pictures.end());
+  return found->second;
+}
+
+void FakeEnvironment::requireReadable(const std::string& path, bool found) const {
+  if (unreadable.contains(path)) throw RunTimeError(75, "Path/File access error: " + path);
+  if (!found) throw RunTimeError(53, "File not found: " + path);
+}
+
+void FakeEnvironment::updateFile(const std::string& path, const ContentChange& change) {
+  const std::string content = change(files.contains(path) ? readFile(path) : std::string());
+  if (duringUpdate) duringUpdate(path);
+  if (!canWrite || unreadable.contains(path)) {
+    throw RunTimeError(75, "Path/File access error: " + path);
+  }
+  files[path] = content;
 }
 
 }  // namespace pelorin::test

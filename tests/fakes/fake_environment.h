@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,11 @@ class FakeEnvironment : public Environment {
   std::vector<std::pair<std::string, std::string>> lines;  // path, line
   std::map<std::string, std::string> settings;             // "file|section|key" -> value
   std::map<std::string, std::string> files;                // path -> bytes
+  std::map<std::string, Picture> pictures;                 // path -> picture
+  std::set<std::string> unreadable;                        // paths of files that are there
+  std::uint64_t now = 0;                                   // milliseconds
+  // Runs before the new content stands.
+  std::function<void(const std::string& path)> duringUpdate;
 
   std::string componentFolder() const override { return folder; }
   std::string dateTimeText() const override { return dateTime; }
@@ -25,7 +31,12 @@ class FakeEnvironment : public Environment {
                                    const std::string& fallback, unsigned capacity,
                                    const std::string& file) const override;
   std::string readFile(const std::string& path) const override;
-  void writeFile(const std::string& path, const std::string& bytes) override;
+  void updateFile(const std::string& path, const ContentChange& change) override;
+  Picture readPicture(const std::string& path) const override;
+  std::uint64_t milliseconds() const noexcept override { return now; }
+
+ private:
+  void requireReadable(const std::string& path, bool found) const;
 };
 
 }  // namespace pelorin::test

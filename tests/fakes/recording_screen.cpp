@@ -26,6 +26,7 @@ std::vector<std::string> RecordingScreen::boxTexts() const {
 }
 
 void RecordingScreen::setMousePointer(MousePointer pointer) {
+  before("point", nullptr);
   pointer_ = pointer;
   pointers.push_back(pointer);
 }
@@ -36,6 +37,7 @@ WindowHandle RecordingScreen::windowOf(const Form& form) const {
 }
 
 void RecordingScreen::createWindow(Form& form, WindowHandle owner) {
+  before("create", &form);
   windows_[&form] = next_++;
   owners[form.name()] = owner;
   windowEvents.push_back("create " + form.name());
@@ -52,11 +54,13 @@ void RecordingScreen::raiseWindow(Form& form) {
 }
 
 void RecordingScreen::destroyWindow(Form& form) {
+  before("destroy", &form);
   windows_.erase(&form);
   windowEvents.push_back("destroy " + form.name());
 }
 
 void RecordingScreen::changeOwner(Form& form, WindowHandle owner) {
+  before("own", &form);
   owners[form.name()] = owner;
 }
 

@@ -22,6 +22,7 @@ class RecordingScreen : public Screen {
   MousePointer mousePointer() const override { return pointer_; }
   void setMousePointer(MousePointer pointer) override;
   WindowHandle windowOf(const Form& form) const override;
+  void setHostWindow(WindowHandle window) override { hostWindow = window; }
 
   std::vector<BoxRequest> boxes;
   std::vector<std::string> boxTexts() const;
@@ -32,6 +33,13 @@ class RecordingScreen : public Screen {
   // "create", "present", "raise", "destroy" with the form's name.
   std::vector<std::string> windowEvents;
   std::map<std::string, WindowHandle> owners;
+  // Runs before a window is made, given another owner or destroyed ("create", "own", "destroy"),
+  // and before the pointer changes ("point", without a form); an error that it throws is the
+  // system's.
+  std::function<void(const std::string& act, Form* form)> beforeAct;
+  WindowHandle hostWindow = 0;
+  // The window that each form, by its name, left active when it went.
+  std::map<std::string, WindowHandle> activated;
 
   // The form of that name that is open, or null.
   template <class FormType>
@@ -46,10 +54,15 @@ class RecordingScreen : public Screen {
   void createWindow(Form& form, WindowHandle owner) override;
   void presentWindow(Form& form) override;
   void raiseWindow(Form& form) override;
+  void passActivation(Form& form, WindowHandle owner) override { activated[form.name()] = owner; }
   void destroyWindow(Form& form) override;
   void changeOwner(Form& form, WindowHandle owner) override;
 
  private:
+  void before(const std::string& act, Form* form) const {
+    if (beforeAct) beforeAct(act, form);
+  }
+
   Journal& journal_;
   MousePointer pointer_ = MousePointer::Default;
   std::map<const Form*, WindowHandle> windows_;

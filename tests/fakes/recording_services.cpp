@@ -7,6 +7,9 @@ namespace pelorin::test {
 void RecordingServices::called(const std::string& member, const std::string& arguments) {
   journal_.add("host: " + member + arguments);
   ++calls_;
+  // It may set another one, or none.
+  const auto during = duringCall;
+  if (during) during(member);
   if (calls_ == failingCall_ || failing.contains(member))
     throw RunTimeError(-2147352567, member + " failed");
 }

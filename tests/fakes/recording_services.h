@@ -1,6 +1,7 @@
 // A host that answers from fields and writes each call to the journal ("host: ...").
 #pragma once
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -23,6 +24,8 @@ class RecordingServices : public HostServices {
   std::int32_t workStationId = 3;
   // Members that fail, by name, such as "LogEvent" or "EnableCustomize".
   std::set<std::string> failing;
+  // Runs inside each call, as a host that handles messages meanwhile; given the member's name.
+  std::function<void(const std::string& member)> duringCall;
   // The n-th call from now on fails; 0 lets none fail.
   void failCall(int number) {
     calls_ = 0;

@@ -10,8 +10,8 @@ namespace {
 
 class ScriptedCursor : public Cursor {
  public:
-  ScriptedCursor(Result result, std::optional<std::size_t> failAt, std::shared_ptr<int> open)
-      : result_(std::move(result)), failAt_(failAt), open_(std::move(open)) {
+  ScriptedCursor(Result result, std::optional<FetchFailure> failure, std::shared_ptr<int> open)
+      : result_(std::move(result)), failure_(failure), open_(std::move(open)) {
     ++*open_;
   }
   ScriptedCursor(const ScriptedCursor&) = delete;
@@ -21,19 +21,23 @@ class ScriptedCursor : public Cursor {
   const std::vector<std::string>& columns() const override { return result_.columns; }
 
   std::size_t fetch(std::size_t rows, std::vector<Value>& cells) override {
-    if (failAt_ && next_ == *failAt_) throw RunTimeError(-2147467259, "fetch failed");
-    std::size_t end = std::min(result_.rows.size(), next_ + rows);
-    if (failAt_) end = std::min(end, *failAt_);
-    const std::size_t fetched = end - next_;
-    for (; next_ < end; ++next_) {
+    const std::size_t end = std::min(result_.rows.size(), next_ + rows);
+    const bool fails = failure_ && failure_->row < next_ + rows;
+    if (fails && failure_->losesBlock) fail();
+    const std::size_t last = fails ? std::min(end, failure_->row) : end;
+    const std::size_t fetched = last - next_;
+    for (; next_ < last; ++next_) {
       cells.insert(cells.end(), result_.rows[next_].begin(), result_.rows[next_].end());
     }
+    if (fails) fail();
     return fetched;
   }
 
  private:
+  [[noreturn]] static void fail() { throw RunTimeError(-2147467259, "fetch failed"); }
+
   Result result_;
-  std::optional<std::size_t> failAt_;
+  std::optional<FetchFailure> failure_;
   std::shared_ptr<int> open_;
   std::size_t next_ = 0;
 };
@@ -42,17 +46,20 @@ class ScriptedCursor : public Cursor {
 
 void ScriptedConnection::note(std::string_view sql) {
   journal_.add("sql: " + std::string(sql));
+  // It may set another one, or none.
+  const auto during = onStatement;
+  if (during) during(std::string(sql));
   const auto failure = failures_.find(std::string(sql));
-  if (failure != failures_.end()) throw RunTimeError(-2147217900, failure->second);
+  if (failure != failures_.end()) throw RunTimeError(failure->second);
 }
 
 std::unique_ptr<Cursor> ScriptedConnection::openCursor(std::string_view sql) {
   note(sql);
   const std::string text(sql);
-  const auto failure = fetchFailures_.find(text);
-  std::optional<std::size_t> failAt;
-  if (failure != fetchFailures_.end()) failAt = failure->second;
-  auto cursor = std::make_unique<ScriptedCursor>(results_[text], failAt, openCursors_);
+  const auto found = fetchFailures_.find(text);
+  std::optional<FetchFailure> failure;
+  if (found != fetchFailures_.end()) failure = found->second;
+  auto cursor = std::make_unique<ScriptedCursor>(results_[text], failure, openCursors_);
   mostOpen_ = std::max(mostOpen_, *openCursors_);
   return cursor;
 }

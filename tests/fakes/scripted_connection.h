@@ -20,6 +20,11 @@ struct Result {
   std::vector<std::vector<Value>> rows;
 };
 
+struct FetchFailure {
+  std::size_t row = 0;
+  bool losesBlock = false;
+};
+
 class ScriptedConnection : public Connection {
  public:
   explicit ScriptedConnection(Journal& journal) : journal_(journal) {}
@@ -27,10 +32,25 @@ class ScriptedConnection : public Connection {
   // A statement without an answer gives no rows and no columns.
   void answer(const std::string& sql, Result result) { results_[sql] = std::move(result); }
   void fail(const std::string& sql, const std::string& description = "statement failed") {
-    failures_[sql] = description;
+    failures_.insert_or_assign(sql, RunTimeError(-2147217900, description));
   }
-  // Rows of `sql` from number `row` (from 0) on cannot be fetched.
-  void failFetch(const std::string& sql, std::size_t row) { fetchFailures_[sql] = row; }
+  // The connection is found lost when `sql` is sent.
+  void lose(const std::string& sql) {
+    fail(sql, "connection lost");
+    failures_.at(sql).setConnectionLost();
+  }
+  // Rows of `sql` from number `row` (from 0) on cannot be fetched. Those before it come, also those
+  // of its block...
+  void failFetch(const std::string& sql, std::size_t row) { fetchFailures_[sql] = {row, false}; }
+  // ...or the whole block is lost, as with ADO.
+  void loseBlock(const std::string& sql, std::size_t row) { fetchFailures_[sql] = {row, true}; }
+  // Runs while a statement is on its way, as a host that pumps messages there.
+  std::function<void(const std::string& sql)> onStatement;
+  // Nothing fails any more.
+  void mend() {
+    failures_.clear();
+    fetchFailures_.clear();
+  }
   // Answers a procedure call; the default sets no output parameter.
   std::function<void(ProcedureCall&)> onCall;
 
@@ -49,8 +69,8 @@ class ScriptedConnection : public Connection {
 
   Journal& journal_;
   std::map<std::string, Result> results_;
-  std::map<std::string, std::string> failures_;
-  std::map<std::string, std::size_t> fetchFailures_;
+  std::map<std::string, RunTimeError> failures_;
+  std::map<std::string, FetchFailure> fetchFailures_;
   std::shared_ptr<int> openCursors_ = std::make_shared<int>(0);
   int mostOpen_ = 0;
 };

@@ -5,6 +5,10 @@
 #include <clocale>
 #include <filesystem>
 
+#include "host/odbc/odbc_handle.h"
+#include "test_paths.h"
+#include "tests/site/server_errors.h"
+
 namespace pelorin::host {
 namespace {
 
@@ -67,6 +71,28 @@ TEST_F(OdbcConnectionTest, NullsOfEveryTypeAreNull) {
   }
 }
 
+// This driver reads row by row only when it is told to.
+class StepwiseOdbcTest : public testing::Test {
+ protected:
+  static constexpr const char* failsAtItsThirdRow =
+      "select abs(N) from (select 1 N union all select 2 union all select -9223372036854775808)";
+
+  OdbcConnection connection{stringFor(":memory:") + ";StepAPI=1"};
+};
+
+TEST_F(StepwiseOdbcTest, RowsBeforeAnErrorAreRead) {
+  RecordSet rows = connection.open(failsAtItsThirdRow);
+  ASSERT_TRUE(rows.next());
+  EXPECT_EQ(rows.int32(0), 1);
+  ASSERT_TRUE(rows.next());
+  EXPECT_EQ(rows.int32(0), 2);
+  EXPECT_THROW(rows.next(), DatabaseError);
+}
+
+TEST_F(StepwiseOdbcTest, ErrorBehindRowsThatNobodyWantsIsRaised) {
+  EXPECT_THROW(connection.execute(failsAtItsThirdRow), DatabaseError);
+}
+
 TEST_F(OdbcConnectionTest, ALongTextArrivesWhole) {
   for (const std::size_t length : {1022U, 1023U, 1024U, 1025U, 2046U, 2047U, 70000U}) {
     std::string text;
@@ -125,6 +151,20 @@ TEST_F(OdbcConnectionTest, AWrongStatementIsAnErrorWithTheServersTextAndNumber) 
   }
   EXPECT_NO_THROW(connection.execute("delete from Things"));
 }
+
+class OdbcErrorNumber : public testing::TestWithParam<site::ServerError> {};
+
+TEST_P(OdbcErrorNumber, IsTheOneThatAdoAndTheEmbeddedDatabaseGive) {
+  try {
+    throwOdbcError({{"what the server said", GetParam().server, GetParam().state}});
+  } catch (const DatabaseError& error) {
+    EXPECT_EQ(error.number(), GetParam().ado);
+    EXPECT_EQ(error.messages().at(0).nativeNumber, GetParam().server);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Server, OdbcErrorNumber, testing::ValuesIn(site::serverErrors),
+                         [](const auto& error) { return std::string(error.param.name); });
 
 TEST_F(OdbcConnectionTest, ADoubledKeyIsToldApartFromAWrongStatement) {
   connection.execute("create table Keys (ID integer primary key)");

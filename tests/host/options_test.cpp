@@ -59,6 +59,24 @@ TEST(Options, OnlyOneSourceOfDataCanBeNamed) {
   EXPECT_EQ(complaintAbout({"--database", "a", "--odbc", "b"}), expected);
 }
 
+TEST(Options, APlayedRequestCanGoToAServerAndBeUndoneThere) {
+  const Options odbc = parseOptions({"--play", "--undo", "--odbc", "DSN=site"});
+  EXPECT_TRUE(odbc.play);
+  EXPECT_TRUE(odbc.undo);
+  EXPECT_EQ(odbc.source, Source::OdbcDataSource);
+  const Options ado = parseOptions({"--connect", "Provider=x", "--play"});
+  EXPECT_TRUE(ado.play);
+  EXPECT_FALSE(ado.undo);
+  EXPECT_EQ(ado.source, Source::AdoConnection);
+}
+
+TEST(Options, NothingIsUndoneWhereNothingIsPlayedOnAServer) {
+  const std::string expected = "--undo belongs to --play with --odbc or --connect.";
+  EXPECT_EQ(complaintAbout({"--undo"}), expected);
+  EXPECT_EQ(complaintAbout({"--play", "--undo"}), expected);
+  EXPECT_EQ(complaintAbout({"--undo", "--odbc", "a"}), expected);
+}
+
 TEST(Options, APlayedRequestDoesNotTouchANamedDatabase) {
   EXPECT_NE(complaintAbout({"--play", "--database", "a"}), "none");
   EXPECT_NE(complaintAbout({"--pictures", "p", "--odbc", "a"}), "none");

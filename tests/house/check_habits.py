@@ -7,8 +7,9 @@ import re
 from project import CODE, ROOT, files, finish, numbered, text
 
 # The guard turns an error into a report; at the boundaries nothing may pass into foreign code.
-CATCHERS = ("common/", "addin/", "win32/", "host/", "site/", "tests/", "bench/", "tools/")
-PRINTERS = ("host/", "site/", "tests/", "bench/", "tools/")
+CATCHERS = ("common/", "addin/", "win32/", "host/", "site/", "tests/", "benches/", "tools/")
+PRINTERS = ("host/", "site/", "tests/", "benches/", "tools/")
+OUTSIDE = ("host/", "drive/", "site/", "tests/", "benches/", "tools/")
 BOUNDARIES = ("win32/", "addin/", "host/", "tests/")
 
 RULES = [
@@ -16,6 +17,9 @@ RULES = [
     (r"\b(sleep_for|sleep_until|usleep|nanosleep|Sleep|SleepEx)\s*\(",
      lambda name: name.startswith("tests/"),
      "a test waits for what it expects, not for a time"),
+    (r"\b(LT|LE|GT|GE)\(.*(GetTickCount\(|steady_clock|high_resolution_clock)",
+     lambda name: name.startswith("tests/"),
+     "speed is shown by a benchmark, never by a test"),
     (r"\bDISABLED_|\bGTEST_SKIP\b", lambda name: name.startswith("tests/") and not name.startswith("tests/windows/"),
      "a test runs"),
     (r"\bNOLINT\w*(?!\w*\([a-z])", lambda name: True, "name the check that is silenced"),
@@ -23,6 +27,12 @@ RULES = [
     (r"\busing\s+namespace\s+std\s*;", lambda name: True, "no using namespace std"),
     (r"#\s*pragma\s+GCC\s+diagnostic\s+ignored", lambda name: not name.startswith(BOUNDARIES),
      "mend the warning"),
+    # Everything happens on the host's thread, in the host's time.
+    (r"\bstd::(thread|jthread|async|packaged_task|mutex|\w+_mutex|condition_variable\w*)\b"
+     r"|\b(_?beginthread(ex)?|CreateThread|CreateRemoteThread\w*|QueueUserWorkItem|QueueUserAPC\w*"
+     r"|\w+Threadpool\w+|RegisterWaitForSingleObject\w*|CriticalSection|CRITICAL_SECTION|SRWLOCK\w*)\b"
+     r"|\b(SetTimer|SetCoalescableTimer|timeSetEvent|\w*WaitableTimer\w*|CreateTimerQueue\w*|WM_TIMER)\b",
+     lambda name: not name.startswith(OUTSIDE), "the component makes no thread, no timer and no lock"),
     (r"\b(printf|std::cout|std::cerr)\b", lambda name: not name.startswith(PRINTERS),
      "the component does not print"),
 ]

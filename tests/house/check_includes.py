@@ -14,7 +14,7 @@ def libraries_by_folder(all_targets):
     """Folder -> the libraries declared in it; test programs are free to use everything."""
     folders = {}
     for target in all_targets.values():
-        if target["dir"] and not target["dir"].startswith(("tests", "bench")):
+        if target["dir"] and not target["dir"].startswith(("tests", "benches")):
             folders.setdefault(target["dir"], []).append(target)
     return folders
 
@@ -52,7 +52,7 @@ def bad_includes(folders):
             source, goal = folder_of(name, folders), folder_of(included, folders)
             if source and goal and goal not in allowed[source]:
                 yield place + f'{source} includes "{included}" but does not link {goal}'
-            if source and not goal and included.startswith(("tests/", "bench/")):
+            if source and not goal and included.startswith(("tests/", "benches/")):
                 yield place + f"{source} must not include {included}"
 
 

@@ -15,6 +15,7 @@
 #include "tests/fakes/faulty_connection.h"
 #include "tests/fakes/recording_screen.h"
 #include "tests/fakes/recording_services.h"
+#include "tests/site/fresh_site.h"
 
 namespace pelorin::test {
 
@@ -66,7 +67,7 @@ class EditorJourney {
   RecordingScreen screen{journal};
   FakeEnvironment environment;
   std::shared_ptr<RecordingServices> services = std::make_shared<RecordingServices>(journal);
-  SiteDatabase site = SiteDatabase::inMemory(demonstrationSite);
+  SiteDatabase site = freshDemonstration();
   std::shared_ptr<Connection> direct = site.connect();
   std::shared_ptr<FaultyConnection> database = std::make_shared<FaultyConnection>(*direct);
   Component component{screen, environment};

@@ -21,6 +21,15 @@ TEST(CaptionFile, ReadsByFormAndName) {
   EXPECT_EQ(file.value(86, "cmdMain(2)"), std::nullopt);
 }
 
+TEST(CaptionFile, NameOfTheNextSectionBelongsToThatSection) {
+  CaptionFile file("[85]\r\ncmdMain(0)=Ja\r\n[86]\r\ncmdMain(2)=other\r\n");
+  EXPECT_EQ(file.value(85, "cmdMain(2)"), std::nullopt);
+  file.remove(85, "cmdMain(2)");
+  file.setValue(85, "cmdMain(2)", "&Hilfe");
+  EXPECT_EQ(file.text(),
+            "[85]\r\ncmdMain(0)=Ja\r\ncmdMain(2)=&Hilfe\r\n[86]\r\ncmdMain(2)=other\r\n");
+}
+
 TEST(CaptionFile, ByteOrderMarkAndBareLineFeedsAreUnderstood) {
   const CaptionFile file("\xEF\xBB\xBF[85]\ncmdMain(2)=a=b");
   EXPECT_EQ(file.value(85, "cmdMain(2)"), "a=b");

@@ -116,13 +116,93 @@ TEST_F(CustomizingTest, EscapeKeepsTheOldCaption) {
   EXPECT_EQ(target.text, "before");
 }
 
-TEST_F(CustomizingTest, EscapeWithoutTheTextBoxHandsOverTheCancelButton) {
+TEST_F(CustomizingTest, TheTitleSaysSo) {
+  open();
+  EXPECT_EQ(picker.caption(), "Select Locations");
+  start();
+  EXPECT_EQ(picker.caption(), "Select Locations - Customising Captions");
+  end();
+  EXPECT_EQ(picker.caption(), "Select Locations");
+}
+
+TEST_F(CustomizingTest, EscapeEndsItAndKeepsWhatWasEdited) {
   open();
   start();
+  edit(2, "Hilfe");
   picker.userKeyDown(key_code::escape);
+  EXPECT_EQ(picker.caption(), "Select Locations");
+  EXPECT_TRUE(picker.contextMenu().entries()[0].enabled);
+  EXPECT_EQ(around.environment.files[captionFile], "[85]\r\ncmdMain(2)=Hilfe\r\nVersion=1.0.0\r\n");
   EXPECT_TRUE(picker.isOpen());
-  EXPECT_EQ(picker.txtCaption.text(), "Cancel");
-  EXPECT_TRUE(picker.txtCaption.visible());
+  EXPECT_EQ(target.text, "before");
+  picker.userKeyDown(key_code::escape);
+  EXPECT_FALSE(picker.isOpen());
+}
+
+TEST_F(CustomizingTest, EscapeInTheTextBoxDropsThatEditFirst) {
+  open();
+  start();
+  picker.userPress(picker.cmdMain[2]);
+  type("wrong");
+  picker.userKeyDown(key_code::escape);
+  EXPECT_EQ(picker.caption(), "Select Locations - Customising Captions");
+  EXPECT_FALSE(picker.txtCaption.visible());
+  picker.userKeyDown(key_code::escape);
+  EXPECT_EQ(picker.caption(), "Select Locations");
+  EXPECT_EQ(picker.cmdMain[2].text(), "&Help");
+}
+
+TEST_F(CustomizingTest, EndsInOrderWidthsThenSavingThenTheMode) {
+  open();
+  start();
+  picker.userResize({10290, 9000});
+  std::string whileSaving;
+  around.environment.duringUpdate = [&](const std::string&) {
+    whileSaving = picker.caption();
+    EXPECT_EQ(picker.Label1.place().width, 8760);
+  };
+  end();
+  EXPECT_EQ(whileSaving, "Select Locations - Customising Captions");
+  EXPECT_EQ(picker.caption(), "Select Locations");
+}
+
+TEST_F(CustomizingTest, CaptionsThatCannotBeReadAreReportedAndNothingIsSavedOverThem) {
+  around.environment.files[captionFile] = "[85]\r\ncmdMain(2)=&Hilfe\r\n";
+  around.environment.unreadable.insert(captionFile);
+  open();
+  EXPECT_THAT(boxes(), ElementsAre(MatchesRegex(
+                           "FLocation.LoadCustomResources: Line: [1-9][0-9]* :Path/File "
+                           "access error: .*PelorinCaptions.ini")));
+  EXPECT_EQ(picker.cmdMain[2].text(), "&Help");
+  EXPECT_THAT(picker.contextMenu().entries(), IsEmpty());
+}
+
+TEST_F(CustomizingTest, CaptionsThatCannotBeReadAtTheEndAreKeptForTheNextEnd) {
+  around.environment.files[captionFile] = "[85]\r\ncmdMain(0)=Ja\r\n";
+  open();
+  start();
+  edit(2, "Hilfe");
+  around.environment.unreadable.insert(captionFile);
+  end();
+  EXPECT_THAT(boxes(),
+              ElementsAre(MatchesRegex("FLocation.Localizer1_CustomizeEnd: Line: [1-9][0-9]* "
+                                       ":Path/File access error: .*PelorinCaptions.ini")));
+  EXPECT_EQ(around.environment.files[captionFile], "[85]\r\ncmdMain(0)=Ja\r\n");
+  around.environment.unreadable.clear();
+  start();
+  end();
+  EXPECT_EQ(around.environment.files[captionFile],
+            "[85]\r\ncmdMain(0)=Ja\r\ncmdMain(2)=Hilfe\r\nVersion=1.0.0\r\n");
+}
+
+TEST_F(CustomizingTest, CaptionsThatAnotherPickerEditedMeanwhileAreKept) {
+  open();
+  start();
+  edit(2, "Hilfe");
+  around.environment.files[captionFile] = "[85]\r\ncmdMain(0)=Ja\r\nVersion=1.0.0\r\n";
+  end();
+  EXPECT_EQ(around.environment.files[captionFile],
+            "[85]\r\ncmdMain(0)=Ja\r\nVersion=1.0.0\r\ncmdMain(2)=Hilfe\r\n");
 }
 
 TEST_F(CustomizingTest, LeavingTheBoxOrEndingTakesTheCaption) {
@@ -192,9 +272,8 @@ TEST_F(CustomizingTest, CaptionsThatCannotBeWrittenAreReportedAndStayOnTheForm) 
   edit(2, "Hilfe");
   around.environment.canWrite = false;
   end();
-  EXPECT_THAT(
-      boxes(),
-      ElementsAre(MatchesRegex("FLocation.Localizer1_CustomizeEnd: .* :Path/File access error")));
+  EXPECT_THAT(boxes(), ElementsAre(MatchesRegex(
+                           "FLocation.Localizer1_CustomizeEnd: .* :Path/File access error: .*")));
   EXPECT_EQ(picker.cmdMain[2].text(), "Hilfe");
   picker.userPress(picker.cmdMain[1]);
   EXPECT_FALSE(picker.isOpen());

@@ -5,9 +5,11 @@
 #include <sstream>
 
 #include "site/site_database.h"
+#include "test_paths.h"
 #include "tests/fakes/faulty_connection.h"
 #include "tests/location/picker_fixture.h"
 #include "tests/location/tree_text.h"
+#include "tests/site/fresh_site.h"
 
 namespace pelorin::test {
 namespace {
@@ -26,7 +28,7 @@ class DemoSiteTest : public PickerTest {
     }
   }
 
-  SiteDatabase site = SiteDatabase::inMemory(demonstrationSite);
+  SiteDatabase site = freshDemonstration();
   std::shared_ptr<Connection> connection = site.connect();
 };
 

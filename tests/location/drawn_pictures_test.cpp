@@ -9,14 +9,35 @@
 
 #include "location/node_images.h"
 #include "location/picture_strip.h"
+#include "test_paths.h"
 
 namespace pelorin::test {
 namespace {
 
+std::uint32_t fileNumber(const std::string& file, std::size_t at) {
+  std::uint32_t number = 0;
+  for (std::size_t i = 4; i-- > 0;) {
+    number = number << 8U | static_cast<unsigned char>(file.at(at + i));
+  }
+  return number;
+}
+
+// The script writes one kind of file: 32 bits with alpha, bottom row first.
+Picture readDrawnFile(const std::string& file) {
+  Picture picture{
+      static_cast<int>(fileNumber(file, 18)), static_cast<int>(fileNumber(file, 22)), {}};
+  const std::size_t row = static_cast<std::size_t>(picture.width) * 4;
+  for (auto y = static_cast<std::size_t>(picture.height); y-- > 0;) {
+    const std::size_t at = fileNumber(file, 10) + y * row;
+    for (std::size_t x = 0; x < row; x += 4) picture.pixels.push_back(fileNumber(file, at + x));
+  }
+  return picture;
+}
+
 const ImageStrip& drawn() {
   static const ImageStrip strip = [] {
     std::ifstream file(PICTURE_STRIP, std::ios::binary);
-    return cutIntoCells(readBitmap(std::string(std::istreambuf_iterator<char>(file), {})));
+    return cutIntoCells(readDrawnFile(std::string(std::istreambuf_iterator<char>(file), {})));
   }();
   return strip;
 }

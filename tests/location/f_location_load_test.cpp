@@ -57,34 +57,37 @@ TEST_F(PickerLoadTest, PicturesAreTheCellsOfTheStrip) {
 }
 
 TEST_F(PickerLoadTest, MissingPicturesAreReportedOnceAndTheTreeStands) {
-  around.environment.files.clear();
+  around.environment.pictures.clear();
   open();
-  EXPECT_THAT(boxes(), ElementsAre(MatchesRegex("FLocation.Form_Load: Line: .* :File not found")));
+  EXPECT_THAT(boxes(), ElementsAre(MatchesRegex("FLocation.Form_Load: Line: [1-9][0-9]* :File not "
+                                                "found: C:.Component.Graphics.pcDetail.bmp")));
   EXPECT_EQ(picker.tvTree.images().cells, 0);
   EXPECT_EQ(node("TT1").text, "Front");
 }
 
-TEST_F(PickerLoadTest, DamagedPicturesAreReportedOnceAndTheTreeStands) {
-  around.environment.files[pictureFile].resize(100);
+TEST_F(PickerLoadTest, PicturesThatCannotBeReadAreReportedOnceAndTheTreeStands) {
+  around.environment.unreadable.insert(pictureFile);
   open();
-  EXPECT_THAT(boxes(), ElementsAre(MatchesRegex("FLocation.Form_Load: Line: .* :Invalid picture")));
+  EXPECT_THAT(boxes(), ElementsAre(MatchesRegex("FLocation.Form_Load: Line: [1-9][0-9]* :Path/File "
+                                                "access error: .*pcDetail.bmp")));
   EXPECT_EQ(picker.tvTree.images().cells, 0);
   EXPECT_EQ(node("TT1").text, "Front");
 }
 
 TEST_F(PickerLoadTest, TooFewPicturesAreReportedOnceAndThoseThatAreThereShow) {
-  around.environment.files[pictureFile] = stripFile(68);
+  around.environment.pictures[pictureFile] = stripPicture(68);
   open();
-  EXPECT_THAT(boxes(),
-              ElementsAre(MatchesRegex(
-                  "FLocation.Form_Load: Line: .* :Invalid picture: \"pcDetail.bmp\" has 68 "
-                  "of 69 pictures")));
+  EXPECT_THAT(
+      boxes(),
+      ElementsAre(MatchesRegex(
+          "FLocation.Form_Load: Line: [1-9][0-9]* :Invalid picture: \"pcDetail.bmp\" has 68 "
+          "of 69 pictures")));
   EXPECT_EQ(picker.tvTree.images().cells, 68);
   EXPECT_EQ(node("TT1").text, "Front");
 }
 
 TEST_F(PickerLoadTest, MorePicturesAreFine) {
-  around.environment.files[pictureFile] = stripFile(80);
+  around.environment.pictures[pictureFile] = stripPicture(80);
   open();
   EXPECT_THAT(boxes(), IsEmpty());
   EXPECT_EQ(picker.tvTree.images().cells, 80);
@@ -141,7 +144,8 @@ TEST_F(PickerLoadTest, WithoutConnectionTheRootStands) {
 TEST_F(PickerLoadTest, WithoutParentTheWindowOpensAndEachUseReports) {
   picker.setMode("singlelocation");
   around.screen.show(picker);
-  EXPECT_THAT(boxes(), ElementsAre(MatchesRegex("FLocation.Form_Load: .*")));
+  EXPECT_THAT(boxes(), ElementsAre(MatchesRegex(
+                           "FLocation.Form_Load: Line: [1-9][0-9]* :Object variable .* not set")));
   click("TT1");
   picker.userPress(picker.cmdMain[0]);
   EXPECT_THAT(boxes(), testing::Contains(MatchesRegex("FLocation.cmdMain_Click: .*")));
@@ -186,6 +190,12 @@ TEST_F(PickerLoadTest, OpeningAfterAnUnloadStartsAfresh) {
   picker.userClose();
   open("multilocation");
   EXPECT_EQ(picker.addedCount(), 0);
+  target.lvwLocation.clear();
+  doubleClick("TT2");
+  EXPECT_EQ(picker.addedCount(), 1);
+  click("TT1");
+  picker.userClose();
+  open("multilocation");
   EXPECT_EQ(picker.lblLocation.text(), "<None>");
   EXPECT_FALSE(picker.lblLocation.bold());
   EXPECT_EQ(node("TT1").text, "Front");

@@ -116,6 +116,20 @@ TEST_F(PickerModesTest, DoubleClickDoesNothingInSingleMode) {
   EXPECT_TRUE(picker.isOpen());
 }
 
+// The selection was moved by the program and the picker is asked for in the other mode meanwhile.
+TEST_F(PickerModesTest, OkOnANodeThatIsNoLocationDoesNothing) {
+  open("multilocation");
+  click("TT1");
+  picker.tvTree.setSelectedNode(&node("TA8"));
+  picker.tvTree.userDoubleClick();
+  open("singlelocation");
+  ASSERT_TRUE(picker.cmdMain[0].enabled());
+  press(0);
+  EXPECT_EQ(target.text, "before");
+  EXPECT_EQ(target.tag, "before");
+  EXPECT_TRUE(picker.isOpen());
+}
+
 TEST_F(PickerModesTest, CancelClearsTheEditorsLocationAndCloses) {
   open();
   press(1);
@@ -155,6 +169,22 @@ TEST_F(PickerModesTest, ClosingTheEditorClosesThePickerWithoutCancel) {
   editor.unload();
   EXPECT_FALSE(picker.isOpen());
   EXPECT_EQ(target.text, "before");
+}
+
+TEST_F(PickerModesTest, AParentThatIsGoneIsAReportedErrorWithItsLine) {
+  auto gone = std::make_unique<RecordingTarget>();
+  picker.setParent(*gone);
+  picker.setMode("multilocation");
+  around.screen.show(picker);
+  gone.reset();
+  doubleClick("TT1");
+  press(1);
+  EXPECT_THAT(boxes(),
+              ElementsAre(MatchesRegex("FLocation.tvTree_DblClick: Line: [1-9][0-9]* "
+                                       ":Object variable or With block variable not set"),
+                          MatchesRegex("FLocation.cmdMain_Click: Line: [1-9][0-9]* "
+                                       ":Object variable or With block variable not set")));
+  EXPECT_EQ(picker.addedCount(), 0);
 }
 
 TEST_F(PickerModesTest, HelpShowsTopic178) {
@@ -205,6 +235,17 @@ TEST_F(PickerModesTest, ClickAfterAddingIsNotBoldAnyMore) {
   EXPECT_EQ(picker.lblLocation.text(), "D2 - R&D");
 }
 
+TEST_F(PickerModesTest, AFolderTakesTheBoldAwayHoweverItIsChosen) {
+  open("multilocation");
+  doubleClick("TT1");
+  click("TA8");
+  EXPECT_FALSE(picker.lblLocation.bold());
+  doubleClick("TT2");
+  picker.tvTree.setSelectedNode(&node("TA8"));
+  picker.tvTree.userDoubleClick();
+  EXPECT_FALSE(picker.lblLocation.bold());
+}
+
 TEST_F(PickerModesTest, DoubleClickOnAGroupingAddsNothing) {
   open("multilocation");
   doubleClick("TA8");
@@ -213,35 +254,6 @@ TEST_F(PickerModesTest, DoubleClickOnAGroupingAddsNothing) {
   EXPECT_EQ(target.lvwLocation.count(), 0);
   EXPECT_EQ(picker.lblLocation.text(), "<None>");
   EXPECT_EQ(picker.addedCount(), 0);
-}
-
-TEST_F(PickerModesTest, EnterAndSpaceOnTheTreeAddAsADoubleClickDoes) {
-  open("multilocation");
-  picker.userFocus(&picker.tvTree);
-  click("TT1");
-  picker.userKeyDown(key_code::enter);
-  click("TT2");
-  picker.userKeyDown(key_code::space);
-  EXPECT_EQ(target.lvwLocation.count(), 2);
-  EXPECT_EQ(picker.lblLocation.text(), "D2 - R&D added");
-}
-
-TEST_F(PickerModesTest, EnterAndSpaceElsewhereAddNothing) {
-  open("multilocation");
-  click("TT1");
-  picker.userFocus(&picker.cmdMain[2]);
-  picker.userKeyDown(key_code::space);
-  picker.userKeyDown(key_code::enter);
-  EXPECT_EQ(target.lvwLocation.count(), 0);
-  EXPECT_EQ(around.journal.lines().back(), "host: ShowHelp(178)");
-}
-
-TEST_F(PickerModesTest, KeysWithoutASelectedNodeAddNothing) {
-  open("multilocation");
-  picker.userFocus(&picker.tvTree);
-  picker.userKeyDown(key_code::enter);
-  EXPECT_EQ(target.lvwLocation.count(), 0);
-  EXPECT_THAT(boxes(), IsEmpty());
 }
 
 TEST_F(PickerModesTest, AnyOtherErrorOfTheListIsReportedAndNothingCounts) {

@@ -217,6 +217,22 @@ TEST_F(HardwareTreeTest, ControllerOnAMultiplexerIsNotListedAgainByItsPortOrADia
   EXPECT_THAT(statements(), testing::Contains(testing::StartsWith("SELECT DoorID")).Times(1));
 }
 
+TEST_F(HardwareTreeTest, ControllerOfAPortIsNotListedAgainByADialUpLocation) {
+  answer("EXECUTE sp_FetchServerPorts 1", portRows({{number(5), "P", "Vollo", number(0), "P5"}}));
+  answer("EXECUTE sp_FetchPortPanels 5", controllerRows({{number(10), "A", number(7), "C10"}}));
+  answer("Select * From DialupLocations Where ServerID = 1 Order By LocationName",
+         {{"LocationID", "LocationName"}, {{number(3), "Far"}}});
+  answer(
+      "Select * from Controllers Where PortID IN (Select PortID From DialupLocations Where "
+      "LocationID = 3)",
+      controllerRows({{number(10), "A", number(7), "C10"}, {number(11), "B", number(7), "C11"}}));
+  EXPECT_TRUE(refresh());
+  EXPECT_EQ(node("CA10").parent(), &node("PA5"));
+  ASSERT_EQ(node("MD3").children().size(), 1U);
+  EXPECT_EQ(node("MD3").children().front()->key, "CA11");
+  EXPECT_THAT(statements(), testing::Contains(testing::StartsWith("SELECT DoorID")).Times(2));
+}
+
 TEST_F(HardwareTreeTest, TextOfTheDialUpFolderComesFromTheHost) {
   around.services->texts[1843] = "Wähl-Orte";
   refresh();

@@ -35,12 +35,14 @@ class IntegratedDevicesTest : public testing::Test {
     answer(cameras, {{"ID", "CameraName", "GlobalAddressID"},
                      {{number(31), "Gate", "G31"}, {number(30), "Yard", "G30"}}});
     answer(classes, {{"ClassName", "ClassAddressAbreviation"}, {{"Receivers", "CSR"}}});
-    answer(receivers, {{"ID", "CSRName", "GlobalAddressId"}, {{number(4), "Central", "G4"}}});
+    answer(receivers, {{"ID", "CSRName", "GlobalAddressId"},
+                       {{number(4), "Central", "G4"}, {number(5), "West", "G5"}}});
     answer(accounts, {{"ID", "AccountName", "GlobalAddressId"},
                       {{number(7), "Bank", "G7"}, {number(8), "Shop", "G8"}}});
     answer(areas, {{"ID", "AreaName", "GlobalAddressId"},
                    {{number(9), "Vault", "G9"}, {number(10), "Yard", "G10"}}});
-    answer(points, {{"ID", "PointName", "GlobalAddressId"}, {{number(11), "Door", "G11"}}});
+    answer(points, {{"ID", "PointName", "GlobalAddressId"},
+                    {{number(11), "Door", "G11"}, {number(12), "Safe", "G12"}}});
   }
   void answer(const std::string& sql, Result result) {
     around.database->answer(sql, std::move(result));
@@ -69,10 +71,12 @@ TEST_F(IntegratedDevicesTest, WholeBranch) {
             "ID-CentralStations1 |Central Stations| 3/1 |\n"
             "  ID-CSR1 |Receivers| 3/1 |\n"
             "    CSR4 |Central| 66/66 |G4\n"
+            "    CSR5 |West| 66/66 |G5\n"
             "  CSRACCOUNTS1 |Account Management| 3/1 |\n"
             "    CSRAccount7 |Bank| 67/67 |!G7\n"
             "      CSRArea9 |Vault| 68/68 |!G9\n"
             "        CSRPoint11 |Door| 69/69 |G11\n"
+            "        CSRPoint12 |Safe| 69/69 |G12\n"
             "      CSRArea10 |Yard| 68/68 |!G10\n"
             "    CSRAccount8 |Shop| 67/67 |!G8\n");
   EXPECT_TRUE(nodes.complete());
@@ -109,7 +113,7 @@ TEST_F(IntegratedDevicesTest, ASecondReceiverClassDoesNotListTheReceiversAgain) 
   refresh();
   EXPECT_THAT(around.database->statements(), testing::Contains(receivers).Times(1));
   EXPECT_THAT(around.database->statements(), testing::Contains(accounts).Times(1));
-  EXPECT_EQ(tree.find("ID-CSR1")->children().size(), 1U);
+  EXPECT_EQ(tree.find("ID-CSR1")->children().size(), 2U);
   EXPECT_EQ(tree.find("ID-CentralStations1")->children().size(), 2U);
 }
 

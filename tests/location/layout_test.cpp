@@ -53,6 +53,15 @@ TEST_F(LayoutTest, LargerWindow) {
   EXPECT_EQ(picker.lblLocation.place(), (Place{1080, 585, 6870, 195}));
 }
 
+TEST_F(LayoutTest, HoldsFromTheFirstMoment) {
+  open();
+  const int buttonTop = 5820 - 80 - 375;
+  EXPECT_EQ(picker.tvTree.place(), (Place{80, 810, 5145 - 160, buttonTop - 80 - 810}));
+  EXPECT_EQ(picker.cmdMain[2].place(), (Place{80, buttonTop, 1005, 375}));
+  EXPECT_EQ(picker.cmdMain[1].place(), (Place{5145 - 80 - 1005, buttonTop, 1005, 375}));
+  EXPECT_EQ(picker.cmdMain[0].place(), (Place{5145 - 160 - 2010, buttonTop, 1005, 375}));
+}
+
 TEST_F(LayoutTest, SmallestWindowKeepsEverythingApart) {
   open();
   picker.userResize({4000, 3000});

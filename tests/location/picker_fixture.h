@@ -9,8 +9,8 @@
 #include "common/form_links.h"
 #include "controls/list_view.h"
 #include "location/f_location.h"
+#include "tests/fakes/bitmap_builder.h"
 #include "tests/fakes/surroundings.h"
-#include "tests/location/bitmap_builder.h"
 #include "tests/location/small_site.h"
 
 namespace pelorin::test {
@@ -46,7 +46,7 @@ class PickerTest : public testing::Test {
  protected:
   PickerTest() {
     around.services->texts[1843] = "Dial-Up";
-    around.environment.files[pictureFile] = stripFile(69);
+    around.environment.pictures[pictureFile] = stripPicture(69);
     answerServer(*around.database);
     answer("EXECUTE sp_FetchServerPorts 1",
            portRows({{number(5), "Port", "Vollo", number(0), "P5"}}));

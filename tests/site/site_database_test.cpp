@@ -1,6 +1,7 @@
 #include "site/site_database.h"
 
 #include <gmock/gmock.h>
+#include <sqlite3.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -27,6 +28,35 @@ class OrdinaryUser {
  private:
   static constexpr uid_t nobody = 65534;
   uid_t user_ = geteuid();
+};
+
+void reachOut(sqlite3_context* context, int, sqlite3_value**) noexcept {
+  sqlite3_result_int(context, 1);
+}
+
+void declareReachOut(sqlite3* database) {
+  sqlite3_create_function_v2(database, "reach_out", 0, SQLITE_UTF8, nullptr, reachOut, nullptr,
+                             nullptr, nullptr);
+}
+
+// Opens a file without the engine's precautions.
+class ForeignHand {
+ public:
+  explicit ForeignHand(const std::string& file) {
+    EXPECT_EQ(sqlite3_open(file.c_str(), &database_), SQLITE_OK);
+    declareReachOut(database_);
+  }
+  ~ForeignHand() { sqlite3_close(database_); }
+  ForeignHand(const ForeignHand&) = delete;
+  ForeignHand& operator=(const ForeignHand&) = delete;
+
+  void script(const std::string& sql) {
+    EXPECT_EQ(sqlite3_exec(database_, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK)
+        << sqlite3_errmsg(database_);
+  }
+
+ private:
+  sqlite3* database_ = nullptr;
 };
 
 class SiteFile : public testing::Test {
@@ -73,6 +103,22 @@ TEST_F(SiteFile, leavesOneFileWhenItIsClosed) {
   SiteDatabase::create(path("site.db"), demonstrationSite);
   SiteDatabase::open(path("site.db")).connect()->execute("exec TA_DeleteTrigger 1");
   EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 1);
+}
+
+TEST(SiteInMemory, aCopyHoldsTheSameRowsAndGoesItsOwnWay) {
+  const SiteDatabase first = SiteDatabase::inMemory(demonstrationSite);
+  const SiteDatabase second = first.copyInMemory();
+  const auto triggers = [](const SiteDatabase& site) {
+    RecordSet rows = site.connect()->open("exec TA_FetchSummary");
+    int count = 0;
+    while (rows.next()) ++count;
+    return count;
+  };
+  const int before = triggers(first);
+  EXPECT_EQ(triggers(second), before);
+  second.connect()->execute("exec TA_DeleteTrigger 1");
+  EXPECT_EQ(triggers(second), before - 1);
+  EXPECT_EQ(triggers(first), before);
 }
 
 TEST_F(SiteFile, takesAPathBeyondAscii) {
@@ -146,6 +192,35 @@ TEST_F(SiteFile, aDatabaseOfANewerVersionIsRefused) {
   site::Engine::open(file, site::Engine::Mode::Open)->script("pragma user_version = 99");
   EXPECT_EQ(openError(file),
             "The site database '" + file + "' was made by a newer version of this program.");
+}
+
+// Whoever gives somebody a file must not be able to have programs of his own run by it.
+TEST_F(SiteFile, whatAForeignHandPutIntoTheSchemaIsNotRun) {
+  const std::string file = path("site.db");
+  SiteDatabase::create(file, demonstrationSite);
+  ForeignHand(file).script(
+      "create trigger sweep after insert on AuditLog begin delete from CCTV_TriggerAction; end; "
+      "drop table Servers; create view Servers as select 1 as ServerID;");
+  const SiteDatabase site = SiteDatabase::open(file);
+  site.auditLog().append({0, "", "Add", "TriggerAction", 12, "", 1184});
+  const auto connection = site.connect();
+  EXPECT_FALSE(allRows(*connection, "select * from CCTV_TriggerAction", {}).empty());
+  EXPECT_THAT(errorOf([&] { connection->execute("select * from Servers"); }),
+              HasSubstr("access to view \"Servers\" prohibited"));
+}
+
+TEST_F(SiteFile, aFunctionInTheSchemaThatReachesBeyondTheFileIsRefused) {
+  const std::string file = path("site.db");
+  SiteDatabase::create(file, demonstrationSite);
+  ForeignHand(file).script(
+      "drop table DVR_ViewGroups; create table DVR_ViewGroups "
+      "(ID int, Description text default (reach_out()))");
+  EXPECT_THAT(errorOf([&] {
+                const auto engine = site::Engine::open(file, site::Engine::Mode::Open);
+                declareReachOut(engine->handle());
+                engine->script("insert into DVR_ViewGroups (ID) values (1)");
+              }),
+              HasSubstr("unsafe use of reach_out()"));
 }
 
 TEST_F(SiteFile, aDamagedFileIsReportedWhenItIsRead) {

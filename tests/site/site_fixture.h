@@ -10,6 +10,7 @@
 #include "common/database.h"
 #include "controls/run_time_error.h"
 #include "site/site_database.h"
+#include "tests/site/fresh_site.h"
 
 namespace pelorin {
 
@@ -46,7 +47,7 @@ class SiteTest : public testing::Test {
     return "";
   }
 
-  SiteDatabase site_ = SiteDatabase::inMemory(demonstrationSite);
+  SiteDatabase site_ = test::freshDemonstration();
   std::unique_ptr<Connection> connection_ = site_.connect();
 };
 

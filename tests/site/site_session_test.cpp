@@ -40,7 +40,8 @@ TEST_P(FailsAsOnTheServer, statement) {
 const WrongStatement wrongStatements[]{
     {"unknownProcedure", "exec NoSuchThing 1", "Could not find stored procedure 'NoSuchThing'."},
     {"unknownBareWord", "hello", "Could not find stored procedure 'hello'."},
-    {"unknownTable", "select * from Nowhere", "Invalid object name 'Nowhere'."},
+    {"unknownTable", "select * from Nowhere", "Invalid object name 'Nowhere'.",
+     site::ado_error::noTable},
     {"unknownColumn", "select Colour from Doors", "Invalid column name 'Colour'."},
     {"trueOutsideACall", "select * from Doors where Active = True", "Invalid column name 'True'."},
     {"twoSelects", "select 1 select 2", "Incorrect syntax near 'select'."},
@@ -53,10 +54,12 @@ const WrongStatement wrongStatements[]{
     {"argumentsForNone", "exec TA_FetchSummary 1",
      "Procedure or function TA_FetchSummary has too many arguments specified."},
     {"missingArgument", "sp_FetchKumbos",
-     "Procedure or function 'sp_FetchKumbos' expects parameter '@PortID', which was not supplied."},
+     "Procedure or function 'sp_FetchKumbos' expects parameter '@PortID', which was not supplied.",
+     site::ado_error::missingParameter},
     {"missingLastArgument", "exec CCTV_Insert_TA 1, 1, 1, 0, 1, 'A', 1, '1', 'x', 0",
      "Procedure or function 'CCTV_Insert_TA' expects parameter '@OpenViewer', which was not "
-     "supplied."},
+     "supplied.",
+     site::ado_error::missingParameter},
     {"unknownName", "exec TA_DeleteTrigger @id=1",
      "@id is not a parameter for procedure TA_DeleteTrigger."},
     {"sameNameTwice", "exec TA_DeleteTrigger @TriggerID=1, @triggerid=1",
@@ -79,16 +82,19 @@ const WrongStatement wrongStatements[]{
      "exec CCTV_Insert_TA 1, 1, 1, 0, 1, 'A', 1, '1', 'A - Drivers' lounge', 0, True",
      "Incorrect syntax near 'lounge'."},
     {"nullIntoKey", "insert into Doors (DoorID, ControllerID) values (4711, null)",
-     "NOT NULL constraint failed: Doors.ControllerID.", site::ado_error::constraint},
+     "Cannot insert the value NULL into column 'ControllerID', table 'Doors'; column does not "
+     "allow nulls.",
+     site::ado_error::constraint},
     {"keyTwice", "insert into Servers (ServerID) values (1)",
      "UNIQUE constraint failed: Servers.ServerID.", site::ado_error::constraint},
 };
 
-std::string nameOf(const testing::TestParamInfo<WrongStatement>& wrong) {
+std::string wrongStatementName(const testing::TestParamInfo<WrongStatement>& wrong) {
   return wrong.param.name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Session, FailsAsOnTheServer, testing::ValuesIn(wrongStatements), nameOf);
+INSTANTIATE_TEST_SUITE_P(Session, FailsAsOnTheServer, testing::ValuesIn(wrongStatements),
+                         wrongStatementName);
 
 std::string insertWithAddress(const std::string& address) {
   return "exec CCTV_Insert_TA 1, 1, 1, 0, 1, '" + address + "', 1, '1', 'x', 0, True";

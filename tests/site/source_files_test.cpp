@@ -89,7 +89,7 @@ TEST(EmbeddedDefinition, namesAreQuotedAndTextsDisregardCase) {
   schema.read("table T\n  A int identity\n  Index nvarchar(20) required\n  key A\n  index Index\n");
   EXPECT_EQ(embeddedDefinition(*schema.table("T")),
             "create table \"T\" (\"A\" integer primary key autoincrement, "
-            "\"Index\" nvarchar(20) collate nocase not null);"
+            "\"Index\" nvarchar(20) collate server_text not null);"
             "create index \"IX_T_Index\" on \"T\" (\"Index\");");
 }
 

@@ -28,14 +28,14 @@ TEST_P(EveryStatement, runsAndGivesItsColumns) {
   for (const std::string& column : statement.columns) expectColumn(records, column);
 }
 
-std::string nameOf(const testing::TestParamInfo<SiteStatement>& info) {
+std::string statementName(const testing::TestParamInfo<SiteStatement>& info) {
   std::string name = info.param.name;
   for (char& c : name) c = c == '.' ? '_' : c;
   return name;
 }
 
 INSTANTIATE_TEST_SUITE_P(Component, EveryStatement, testing::ValuesIn(site::siteStatements()),
-                         nameOf);
+                         statementName);
 
 TEST(StatementTable, everyPlaceHasASample) {
   for (const SiteStatement& statement : site::siteStatements()) {

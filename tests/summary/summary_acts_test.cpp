@@ -141,6 +141,56 @@ TEST_F(SummaryActsTest, EscapeUnloadsTheWindow) {
   EXPECT_FALSE(form.isOpen());
 }
 
+class OwnedWindows : public SummaryActsTest {
+ protected:
+  OwnedWindows() {
+    openThree();
+    screen.show(editor, form.hwnd());
+    screen.show(picker, editor.hwnd());
+    screen.windowEvents.clear();
+  }
+  ~OwnedWindows() override { form.unload(); }
+
+  Form editor{"frmTriggerAction", "Add Trigger Action", {100, 100}};
+  Form picker{"FLocation", "Select Locations", {100, 100}};
+};
+
+TEST_F(OwnedWindows, EscapeBringsTheInnermostToTheFrontAndClosesNothing) {
+  form.userKeyDown(key_code::escape);
+  EXPECT_TRUE(form.isOpen() && editor.isOpen() && picker.isOpen());
+  EXPECT_THAT(screen.windowEvents, ElementsAre("raise FLocation"));
+  picker.unload();
+  screen.windowEvents.clear();
+  form.userKeyDown(key_code::escape);
+  EXPECT_TRUE(form.isOpen() && editor.isOpen());
+  EXPECT_THAT(screen.windowEvents, ElementsAre("raise frmTriggerAction"));
+}
+
+TEST_F(OwnedWindows, EscapeClosesWhenNoneIsOpenAnyMore) {
+  editor.unload();
+  form.userKeyDown(key_code::escape);
+  EXPECT_FALSE(form.isOpen());
+}
+
+TEST_F(OwnedWindows, CloseButtonClosesThemAll) {
+  form.userPress(button("cmdClose"));
+  EXPECT_FALSE(form.isOpen() || editor.isOpen() || picker.isOpen());
+}
+
+TEST_F(OwnedWindows, TitleBarClosesThemAll) {
+  form.userClose();
+  EXPECT_FALSE(form.isOpen() || editor.isOpen() || picker.isOpen());
+}
+
+TEST_F(SummaryActsTest, AddAndEditShowTheHourglassWhileTheEditorOpens) {
+  openThree();
+  screen.pointers.clear();
+  form.userPress(button("cmdAddEdit(0)"));
+  editRow(1);
+  EXPECT_THAT(screen.pointers, ElementsAre(MousePointer::Hourglass, MousePointer::Default,
+                                           MousePointer::Hourglass, MousePointer::Default));
+}
+
 TEST_F(SummaryActsTest, TitleBarCloseUnloadsTheWindow) {
   openThree();
   form.userClose();

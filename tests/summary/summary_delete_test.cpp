@@ -115,6 +115,27 @@ TEST_F(SummaryDeleteTest, OfOneRowAmongOthersKeepsTheButtonsEnabled) {
   EXPECT_TRUE(editAndDeleteEnabled());
 }
 
+TEST_F(SummaryDeleteTest, RemovesTheCurrentRowOfATriggerThatIsListedTwice) {
+  answerDevices({deviceRow(5, "first", 42, "DVR / NVR", 31),
+                 deviceRow(5, "second", 42, "DVR / NVR", 31),
+                 deviceRow(8, "third", 5001, "Intercom", 9)});
+  open();
+  deleteRow(2);
+  ASSERT_EQ(grid().rows(), 3);
+  EXPECT_EQ(grid().cell(1, 1), "first");
+  EXPECT_EQ(grid().cell(2, 1), "third");
+}
+
+TEST_F(SummaryDeleteTest, FindsTheRowAgainThatAReloadMoved) {
+  openThree();
+  answerCctv({});
+  database.onStatement = [this](const std::string& sql) {
+    if (sql == deleteTrigger) form.ReloadSummary();
+  };
+  deleteRow(2);
+  EXPECT_THAT(rows(), ElementsAre(intercomLine));
+}
+
 TEST_F(SummaryDeleteTest, WithoutCurrentRowDoesNothing) {
   openThree();
   grid().clearCurrentRow();

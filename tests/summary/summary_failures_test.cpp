@@ -130,6 +130,42 @@ TEST_F(SummaryFailureTest, EachReportIsOneLineOfTheLog) {
             surroundings.environment.dateTime + ": " + boxes()[0]);
 }
 
+TEST_F(SummaryFailureTest, OfManyNamesShowsTenReportsAndOneBoxForTheRest) {
+  std::vector<Row> many;
+  for (int action = 1; action <= 1000; ++action) {
+    many.push_back(deviceRow(action, "2.1", 42, "DVR / NVR", action));
+    database.fail(dvrNameQuery(action));
+  }
+  answerDevices(many);
+  open();
+  ASSERT_THAT(boxes(), SizeIs(11));
+  EXPECT_EQ(boxes().back(), "990 more errors were written to Pelorin.txt.");
+  EXPECT_THAT(surroundings.environment.lines, SizeIs(1000));
+  EXPECT_THAT(rows(), SizeIs(1000));
+}
+
+TEST_F(SummaryFailureTest, OfTheConnectionEndsTheLoadWithOneReport) {
+  answerThree();
+  database.lose(dvrNameQuery(31));
+  open();
+  EXPECT_THAT(boxes(),
+              ElementsAre(report("frmTASummary.GetDVRActionDeviceName", "connection lost")));
+  EXPECT_THAT(rows(), ElementsAre(cctvLine, testing::StartsWith("00042 - ")));
+  EXPECT_TRUE(editAndDeleteEnabled());
+  journal.clear();
+  form.ReloadSummary();
+  EXPECT_THAT(database.statements(), testing::IsSupersetOf({cctvQuery, summaryQuery}));
+}
+
+TEST_F(SummaryFailureTest, OfTheConnectionAtTheStartSendsNothingMore) {
+  answerThree();
+  database.lose(typesQuery);
+  screen.show(form);
+  EXPECT_THAT(database.statements(), ElementsAre(typesQuery));
+  EXPECT_THAT(boxes(), ElementsAre(report("Module1.InitEventTypeInfoArray", "connection lost")));
+  EXPECT_TRUE(form.isOpen());
+}
+
 TEST_F(SummaryFailureTest, WindowClosedDuringAReportStopsTheLoad) {
   answerThree();
   database.fail(typesQuery);

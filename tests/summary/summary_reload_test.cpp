@@ -40,6 +40,15 @@ TEST_F(SummaryReloadTest, TellsTriggersOfTheSameNumberApartByType) {
   EXPECT_LT(grid().row(), 1);
 }
 
+TEST_F(SummaryReloadTest, KeepsTheCurrentRowOfATriggerThatIsListedTwice) {
+  answerDevices(
+      {deviceRow(5, "first", 42, "DVR / NVR", 31), deviceRow(5, "second", 42, "DVR / NVR", 31)});
+  open();
+  grid().userSelectRow(2);
+  form.ReloadSummary();
+  EXPECT_EQ(grid().row(), 2);
+}
+
 TEST_F(SummaryReloadTest, MakesNothingCurrentWhenTheTriggerIsGone) {
   openThree();
   grid().userSelectRow(3);

@@ -12,15 +12,17 @@
 #include "controls/grid.h"
 #include "site/site_database.h"
 #include "tests/fakes/surroundings.h"
+#include "tests/site/fresh_site.h"
 
 namespace pelorin::test {
 
-// Can refuse a window or the hourglass, as a machine without resources would.
+// Can refuse a window, its controls or the hourglass, as a machine without resources would.
 class FailingScreen : public RecordingScreen {
  public:
   using RecordingScreen::RecordingScreen;
 
   bool windowsFail = false;
+  bool controlsFail = false;
   bool hourglassFails = false;
 
   void setMousePointer(MousePointer pointer) override {
@@ -35,6 +37,10 @@ class FailingScreen : public RecordingScreen {
     if (windowsFail) throw RunTimeError(7, "Out of memory");
     RecordingScreen::createWindow(form, owner);
   }
+  void presentWindow(Form& form) override {
+    if (controlsFail) throw RunTimeError(7, "Out of memory");
+    RecordingScreen::presentWindow(form);
+  }
 };
 
 struct ComponentTest : ::testing::Test {
@@ -44,7 +50,7 @@ struct ComponentTest : ::testing::Test {
   FailingScreen screen{journal};
   FakeEnvironment environment;
   std::shared_ptr<RecordingServices> services = std::make_shared<RecordingServices>(journal);
-  SiteDatabase site = SiteDatabase::inMemory(demonstrationSite);
+  SiteDatabase site = freshDemonstration();
   std::shared_ptr<Connection> database = site.connect();
   Component component{screen, environment};
 

@@ -5,10 +5,13 @@
 namespace pelorin::test {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::IsSupersetOf;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 
@@ -40,6 +43,27 @@ TEST_F(RaiseForm, refusedShowsText3575AndNoWindow) {
   EXPECT_EQ(screen.boxes[0].icon, BoxIcon::Information);
   EXPECT_EQ(screen.boxes[0].buttons, BoxButtons::Ok);
   EXPECT_THAT(openForms(), IsEmpty());
+}
+
+TEST_F(RaiseForm, refusedShowsTheReportAloneWhenTheTextCannotBeHad) {
+  services->permitted = false;
+  services->failing = {"GetResourceString"};
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(screen.boxTexts(), ElementsAre(StartsWith("MPublic: GRS: Line: ")));
+}
+
+TEST_F(RaiseForm, refusedShowsTheEmptyTextThatTheHostAnswers) {
+  services->permitted = false;
+  services->texts[3575] = "";
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(screen.boxTexts(), ElementsAre(""));
+}
+
+TEST_F(RaiseForm, showsTheHourglassDuringThePermissionCheck) {
+  services->permitted = false;
+  component.RaiseForm(hostWindow);
+  EXPECT_THAT(screen.pointers,
+              ElementsAre(MousePointer::Hourglass, MousePointer::Default, MousePointer::Default));
 }
 
 TEST_F(RaiseForm, asksForText3575WithoutSubstitutions) {
@@ -74,6 +98,13 @@ TEST_F(RaiseForm, worksAgainAfterAWindowCouldNotBeMade) {
   EXPECT_THAT(openForms(), ElementsAre("frmTASummary"));
 }
 
+TEST_F(RaiseForm, isNotShownWhenItsControlsCouldNotBeMade) {
+  screen.controlsFail = true;
+  EXPECT_THROW(component.RaiseForm(hostWindow), RunTimeError);
+  EXPECT_THAT(openForms(), IsEmpty());
+  EXPECT_THAT(screen.windowEvents, ElementsAre("create frmTASummary", "destroy frmTASummary"));
+}
+
 TEST_F(RaiseForm, twiceAsksAgainAndBringsTheSummaryToTheFrontWithoutReload) {
   component.RaiseForm(hostWindow);
   journal.clear();
@@ -96,7 +127,7 @@ TEST_F(RaiseForm, withoutServicesReportsEachStepAndOpensNothing) {
   component.module().setNTConnection(nullptr);
   component.RaiseForm(hostWindow);
   EXPECT_THAT(screen.boxTexts(), ElementsAre(StartsWith("Module1.MyPermissionGranted: Line: "),
-                                             StartsWith("MPublic: GRS: Line: "), ""));
+                                             StartsWith("MPublic: GRS: Line: ")));
   EXPECT_THAT(environment.lines, SizeIs(2));
   EXPECT_THAT(openForms(), IsEmpty());
 }
@@ -108,6 +139,13 @@ TEST_F(RaiseForm, withoutConnectionReportsAndShowsAnEmptySummary) {
   EXPECT_EQ(grid().rows(), 1);
   EXPECT_FALSE(control<Button>("frmTASummary", "cmdAddEdit(1)").enabled());
   EXPECT_FALSE(control<Button>("frmTASummary", "cmdDelete").enabled());
+}
+
+TEST_F(RaiseForm, makesItsOwnerTheOwnerOfBoxesUnlessItHasNone) {
+  component.RaiseForm(hostWindow);
+  EXPECT_EQ(screen.hostWindow, hostWindow);
+  component.RaiseForm(0);
+  EXPECT_EQ(screen.hostWindow, hostWindow);
 }
 
 TEST_F(RaiseForm, usesTheServicesThatWereSetLast) {
@@ -150,12 +188,60 @@ TEST_F(Windows, editorThatWasClosedOpensForTheNextTrigger) {
   EXPECT_EQ(form("frmTriggerAction").caption(), "Add Trigger Action");
 }
 
+// Presses the button while the system refuses windows, then their controls; each time the report
+// stands under the button's procedure, and nothing new is open.
+struct Refusals : ComponentTest {
+  void expectReported(const std::string& formName, const std::string& button,
+                      const std::string& procedure) {
+    const std::vector<std::string> before = openForms();
+    for (bool* const refused : {&screen.windowsFail, &screen.controlsFail}) {
+      screen.boxes.clear();
+      *refused = true;
+      press(formName, button);
+      *refused = false;
+      EXPECT_THAT(screen.boxTexts(),
+                  Contains(AllOf(StartsWith(procedure + ": Line: "), EndsWith(" :Out of memory")))
+                      .Times(1));
+      EXPECT_EQ(openForms(), before);
+    }
+  }
+};
+
+TEST_F(Refusals, ofTheEditorAreReportedByTheSummarysButton) {
+  component.RaiseForm(hostWindow);
+  expectReported("frmTASummary", "cmdAddEdit(0)", "frmTASummary.cmdAddEdit_Click");
+  press("frmTASummary", "cmdAddEdit(0)");
+  EXPECT_THAT(openForms(), ElementsAre("frmTASummary", "frmTriggerAction"));
+}
+
+TEST_F(Refusals, ofThePickerAreReportedByTheEditorsButton) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(0)");
+  expectReported("frmTriggerAction", "cmdAddLocation", "frmTriggerAction.cmdAddLocation_Click");
+  press("frmTriggerAction", "cmdAddLocation");
+  EXPECT_THAT(openForms(), SizeIs(3));
+}
+
 TEST_F(Windows, pickerIsOwnedByTheEditor) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   press("frmTriggerAction", "cmdAddLocation");
   EXPECT_THAT(openForms(), ElementsAre("frmTASummary", "frmTriggerAction", "FLocation"));
   EXPECT_EQ(screen.owners["FLocation"], form("frmTriggerAction").hwnd());
+}
+
+TEST_F(Windows, closedWindowsLeaveTheirOwnersActive) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(0)");
+  press("frmTriggerAction", "cmdAddLocation");
+  const WindowHandle editor = form("frmTriggerAction").hwnd();
+  const WindowHandle summary = form("frmTASummary").hwnd();
+  press("FLocation", "cmdMain(1)");
+  press("frmTriggerAction", "cmdCancel");
+  press("frmTASummary", "cmdClose");
+  EXPECT_EQ(screen.activated["FLocation"], editor);
+  EXPECT_EQ(screen.activated["frmTriggerAction"], summary);
+  EXPECT_EQ(screen.activated["frmTASummary"], hostWindow);
 }
 
 TEST_F(Windows, pickerOpensInTheModeOfTheButton) {
@@ -190,6 +276,32 @@ TEST_F(Windows, closingTheSummaryUnloadsThePickerThenTheEditorAndNothingElse) {
               ElementsAre("destroy FLocation", "destroy frmTriggerAction", "destroy frmTASummary"));
   EXPECT_THAT(journal.lines(), IsEmpty());
   EXPECT_THAT(openForms(), IsEmpty());
+}
+
+TEST_F(Windows, pickerGoesWithItsEditorWhileTheHostIsAskedForTheNewerHardware) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(0)");
+  services->duringCall = [this](const std::string&) {
+    services->duringCall = nullptr;
+    form("frmTriggerAction").unload();
+  };
+  press("frmTriggerAction", "cmdAddLocation");
+  screen.collect();
+  EXPECT_THAT(openForms(), ElementsAre("frmTASummary"));
+  EXPECT_THAT(screen.boxes, IsEmpty());
+  EXPECT_EQ(screen.mousePointer(), MousePointer::Default);
+}
+
+TEST_F(Windows, pickerGoesWithItsEditorWhileAReportIsOnTheScreen) {
+  component.RaiseForm(hostWindow);
+  press("frmTASummary", "cmdAddEdit(0)");
+  services->failing.insert("ZornIsVn8HardwareSupportEnabled");
+  screen.duringBox = [this](const BoxRequest&) { form("frmTASummary").unload(); };
+  press("frmTriggerAction", "cmdAddLocation");
+  screen.collect();
+  EXPECT_THAT(openForms(), IsEmpty());
+  EXPECT_THAT(screen.windowEvents, IsSupersetOf({"destroy FLocation", "destroy frmTriggerAction"}));
+  EXPECT_THAT(screen.boxes, SizeIs(1));
 }
 
 TEST_F(Windows, everythingOpensAgainAfterEverythingWasClosed) {

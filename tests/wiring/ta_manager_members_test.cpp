@@ -2,6 +2,7 @@
 #include "addin/ta_manager_members.h"
 
 #include "tests/wiring/component_fixture.h"
+#include "tests/wiring/fake_entrance.h"
 
 namespace pelorin::test {
 namespace {
@@ -11,7 +12,8 @@ using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
 struct TAManagerTest : ComponentTest {
-  TAManagerMembers manager{component};
+  FakeEntrance entrance{component};
+  TAManagerMembers manager{entrance};
 };
 
 TEST_F(TAManagerTest, inDesignIsFalseOnTheFirstAndEveryLaterCall) {
@@ -57,6 +59,74 @@ TEST_F(TAManagerTest, errorsCarryTheNameOfTheirMember) {
                           StartsWith("Exception in class MorvatPelorin.Destroy: "),
                           StartsWith("Exception in class MorvatPelorin.UnInstall: "),
                           "Exception in class MorvatPelorin.RaiseForm: Out of memory [7]"));
+}
+
+// Each procedure inside reports on its own; the call of the host is one act.
+TEST_F(TAManagerTest, raiseFormShowsTenReportsAndOneBoxForTheRest) {
+  auto scripted = std::make_shared<ScriptedConnection>(journal);
+  component.module().setDBConnection(scripted);
+  const std::string triggers = "exec TA_FetchSummary";
+  Result answer{{"TriggerID", "TriggerAddress", "TriggerEventID", "Classname", "ActionID"}, {}};
+  for (std::int64_t id = 1; id <= 30; ++id) {
+    answer.rows.push_back({id, std::string("1.1"), id, std::string("DVR / NVR"), id});
+    scripted->fail("exec TA_FetchDVRNameFromAction " + std::to_string(id));
+  }
+  scripted->answer(triggers, answer);
+  screen.duringBox = [&, calls = 0](const BoxRequest&) mutable {
+    if (++calls == 5) manager.GetAddInID("MorvatPelorin");
+  };
+  scripted->fail(
+      "SELECT DISTINCT AddInID FROM ApplicatrionAddIns WHERE AddInObjectName=N'MorvatPelorin'");
+  manager.RaiseForm(0);
+  ASSERT_THAT(screen.boxes, ::testing::SizeIs(11));
+  EXPECT_EQ(screen.boxes.back().text, "21 more errors were written to Pelorin.txt.");
+}
+
+TEST_F(TAManagerTest, fromAnotherThreadEachMemberTellsItThereAndDoesNothing) {
+  entrance.otherThread = true;
+  manager.Activate();
+  manager.Destroy();
+  manager.RaiseForm(hostWindow);
+  manager.OnEvent();
+  manager.OnStream();
+  manager.Install();
+  manager.UnInstall();
+  std::vector<std::string> expected;
+  for (const char* member :
+       {"Activate", "Destroy", "RaiseForm", "OnEvent", "OnStream", "Install", "UnInstall"}) {
+    expected.push_back(std::string("Exception in class MorvatPelorin.") + member +
+                       ": wrong thread [-2147417842]");
+  }
+  EXPECT_EQ(entrance.told, expected);
+  EXPECT_THAT(screen.boxes, IsEmpty());
+  EXPECT_THAT(screen.pointers, IsEmpty());
+  EXPECT_THAT(journal.lines(), IsEmpty());
+}
+
+TEST_F(TAManagerTest, fromAnotherThreadPropertiesDoNothingInSilence) {
+  entrance.otherThread = true;
+  bool assigned = false;
+  manager.assign([&](Component&) { assigned = true; });
+  EXPECT_FALSE(assigned);
+  EXPECT_FALSE(manager.InDesign());
+  EXPECT_THAT(entrance.told, IsEmpty());
+}
+
+TEST_F(TAManagerTest, errorsOfAPropertyArePassedOver) {
+  manager.assign([](Component&) { throw RunTimeError(5, "no"); });
+  EXPECT_THAT(screen.boxes, IsEmpty());
+  EXPECT_THAT(entrance.told, IsEmpty());
+}
+
+TEST_F(TAManagerTest, everyCallIsInsideTheComponentUntilItEnds) {
+  int during = 0;
+  manager.assign([&](Component&) { during = entrance.inside; });
+  EXPECT_EQ(during, 1);
+  screen.duringBox = [&](const BoxRequest&) { during += entrance.inside; };
+  screen.hourglassFails = true;
+  manager.Activate();
+  EXPECT_EQ(during, 2);
+  EXPECT_EQ(entrance.inside, 0);
 }
 
 TEST_F(TAManagerTest, addInIdIsTheFirstRowsOfThatName) {

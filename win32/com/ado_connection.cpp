@@ -7,18 +7,24 @@
 namespace pelorin {
 
 std::unique_ptr<Cursor> AdoConnection::openCursor(std::string_view sql) {
-  // What Execute gives is forward-only and read-only.
-  return std::make_unique<AdoCursor>(connection_.object(
-      L"Execute", {Variant::text(sql), Variant::missing(), Variant::int32(ado::commandText)}));
+  return connection_.watched([&] {
+    // What Execute gives is forward-only and read-only.
+    LateBound rows = connection_.object().object(
+        L"Execute", {Variant::text(sql), Variant::missing(), Variant::int32(ado::commandText)});
+    return std::make_unique<AdoCursor>(connection_, std::move(rows));
+  });
 }
 
 void AdoConnection::run(std::string_view sql) {
-  connection_.call(L"Execute", {Variant::text(sql), Variant::missing(),
-                                Variant::int32(ado::commandText | ado::executeNoRecords)});
+  connection_.watched([&] {
+    connection_.object().call(L"Execute",
+                              {Variant::text(sql), Variant::missing(),
+                               Variant::int32(ado::commandText | ado::executeNoRecords)});
+  });
 }
 
 void AdoConnection::call(ProcedureCall& procedure) {
-  callProcedure(connection_.get(), procedure);
+  connection_.watched([&] { callProcedure(connection_.object().get(), procedure); });
 }
 
 }  // namespace pelorin

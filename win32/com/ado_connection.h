@@ -3,7 +3,7 @@
 #pragma once
 
 #include "common/database.h"
-#include "win32/com/late_bound.h"
+#include "win32/com/lent_connection.h"
 
 namespace pelorin {
 
@@ -17,7 +17,7 @@ class AdoConnection : public Connection {
   void call(ProcedureCall& procedure) override;
 
  private:
-  LateBound connection_;
+  LentConnection connection_;
 };
 
 }  // namespace pelorin

@@ -22,6 +22,7 @@ inline constexpr std::int32_t parameterOutput = 2;
 
 // ObjectStateEnum.
 inline constexpr std::int32_t stateClosed = 0;
+inline constexpr std::int32_t stateOpen = 1;  // a bit
 
 // "Operation is not allowed when the object is closed."
 inline constexpr std::int32_t objectClosed = 3704;

@@ -8,15 +8,19 @@ namespace pelorin {
 
 namespace {
 
+// Far more than a procedure's row counts, and soon reached by a provider that goes round in
+// circles.
+constexpr int longestChain = 10000;
+
 bool isClosed(LateBound& rows) {
   return toInt32(valueOf(rows.call(L"State"))) == ado::stateClosed;
 }
 
 // A procedure that writes before it reads first answers with row counts, as closed record sets.
 LateBound firstWithRows(LateBound rows) {
-  while (isClosed(rows)) {
+  for (int passed = 0; isClosed(rows); ++passed) {
     const Variant next = rows.call(L"NextRecordset");
-    if (!next.asObject()) {
+    if (!next.asObject() || passed == longestChain) {
       throw RunTimeError(ado::objectClosed, "Operation is not allowed when the object is closed.");
     }
     rows = objectIn(next);
@@ -35,6 +39,15 @@ std::vector<std::string> columnNames(LateBound& rows) {
   return names;
 }
 
+// A column that nobody reads may hold what it likes.
+Value cellValue(const VARIANT& cell) {
+  try {
+    return valueOf(cell);
+  } catch (const RunTimeError&) {
+    return Unreadable{};
+  }
+}
+
 }  // namespace
 
 OpenRows::~OpenRows() {
@@ -46,10 +59,16 @@ OpenRows::~OpenRows() {
   }
 }
 
-AdoCursor::AdoCursor(LateBound rows)
-    : open_{firstWithRows(std::move(rows))}, columns_(columnNames(open_.rows)) {}
+AdoCursor::AdoCursor(LentConnection connection, LateBound rows)
+    : connection_(std::move(connection)),
+      open_{firstWithRows(std::move(rows))},
+      columns_(columnNames(open_.rows)) {}
 
 std::size_t AdoCursor::fetch(std::size_t rows, std::vector<Value>& cells) {
+  return connection_.watched([&] { return fetchBlock(rows, cells); });
+}
+
+std::size_t AdoCursor::fetchBlock(std::size_t rows, std::vector<Value>& cells) {
   if (toBoolean(valueOf(open_.rows.call(L"EOF")))) return 0;
   const Variant block =
       open_.rows.call(L"GetRows", {Variant::int32(static_cast<std::int32_t>(rows))});
@@ -59,7 +78,7 @@ std::size_t AdoCursor::fetch(std::size_t rows, std::vector<Value>& cells) {
   }
   const std::size_t fetched = extentOf(block.parray, 2);
   const ArrayAccess<const VARIANT> access(block.parray);
-  for (const VARIANT& cell : access.elements()) cells.push_back(valueOf(cell));
+  for (const VARIANT& cell : access.elements()) cells.push_back(cellValue(cell));
   return fetched;
 }
 

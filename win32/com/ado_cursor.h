@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/database.h"
-#include "win32/com/late_bound.h"
+#include "win32/com/lent_connection.h"
 
 namespace pelorin {
 
@@ -18,12 +18,15 @@ struct OpenRows {
 
 class AdoCursor : public Cursor {
  public:
-  explicit AdoCursor(LateBound rows);
+  AdoCursor(LentConnection connection, LateBound rows);
 
   const std::vector<std::string>& columns() const override { return columns_; }
   std::size_t fetch(std::size_t rows, std::vector<Value>& cells) override;
 
  private:
+  std::size_t fetchBlock(std::size_t rows, std::vector<Value>& cells);
+
+  LentConnection connection_;
   OpenRows open_;
   std::vector<std::string> columns_;
 };

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "win32/com/bstr.h"
+#include "win32/text/system_text.h"
 
 namespace pelorin {
 
@@ -16,7 +17,7 @@ struct KnownError {
   const char* text;
 };
 
-constexpr std::array<KnownError, 17> knownErrors{{
+constexpr std::array<KnownError, 18> knownErrors{{
     {DISP_E_UNKNOWNNAME, 438, "Object doesn't support this property or method"},
     {DISP_E_MEMBERNOTFOUND, 438, "Object doesn't support this property or method"},
     {DISP_E_TYPEMISMATCH, 13, "Type mismatch"},
@@ -33,6 +34,8 @@ constexpr std::array<KnownError, 17> knownErrors{{
     {E_NOTIMPL, 445, "Object doesn't support this action"},
     {E_NOINTERFACE, 430, "Class doesn't support Automation"},
     {E_ACCESSDENIED, 70, "Permission denied"},
+    {RPC_E_WRONG_THREAD, RPC_E_WRONG_THREAD,
+     "The application called an interface that was marshalled for a different thread."},
     {REGDB_E_CLASSNOTREG, 429, "ActiveX component can't create object"},
 }};
 
@@ -49,19 +52,9 @@ std::int32_t numberOf(HRESULT result) {
   return HRESULT_FACILITY(result) == FACILITY_CONTROL ? HRESULT_CODE(result) : result;
 }
 
-std::string systemText(HRESULT result) {
-  std::array<wchar_t, 512> buffer{};
-  const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                                      nullptr, static_cast<DWORD>(result), 0, buffer.data(),
-                                      static_cast<DWORD>(buffer.size()), nullptr);
-  std::wstring_view text(buffer.data(), length);
-  while (!text.empty() && text.back() <= L' ') text.remove_suffix(1);
-  return toUtf8(text);
-}
-
 std::string textOf(HRESULT result) {
   if (const KnownError* error = known(result)) return error->text;
-  const std::string text = systemText(result);
+  const std::string text = systemText(static_cast<DWORD>(result));
   return text.empty() ? "Automation error" : text;
 }
 
@@ -69,6 +62,14 @@ std::string textOf(HRESULT result) {
 
 RunTimeError errorOf(HRESULT result) {
   return {numberOf(result), textOf(result)};
+}
+
+HRESULT resultOf(const RunTimeError& error) {
+  if (error.number() < 0) return error.number();
+  const auto* const found =
+      std::find_if(knownErrors.begin(), knownErrors.end(),
+                   [&error](const KnownError& e) { return e.number == error.number(); });
+  return found == knownErrors.end() ? E_FAIL : found->result;
 }
 
 ExceptionInfo::~ExceptionInfo() {

@@ -1,8 +1,10 @@
 #include <algorithm>
+#include <utility>
 
 #include "win32/text/utf16.h"
 #include "win32/views/form_window.h"
 #include "win32/views/peers.h"
+#include "win32/views/private_messages.h"
 
 namespace pelorin {
 
@@ -24,8 +26,10 @@ class ComboPeer final : public Peer {
   }
 
   void onCommand(UINT code) override {
-    if (code == CBN_SELCHANGE) act(1);
-    if (code == CBN_DROPDOWN) widenList();
+    if (code == CBN_SELCHANGE) changed();
+    if (code == CBN_DROPDOWN) dropped();
+    if (code == CBN_SELENDOK) chosen_ = true;
+    if (code == CBN_CLOSEUP) PostMessageW(hwnd(), choiceMessage, 0, 0);
   }
 
  protected:
@@ -45,6 +49,7 @@ class ComboPeer final : public Peer {
   LRESULT handle(UINT message, WPARAM w, LPARAM l) override {
     const bool wheel = message == WM_MOUSEWHEEL || message == WM_MOUSEHWHEEL;
     if (wheel && send(CB_GETDROPPEDSTATE) == 0) return 0;
+    if (message == choiceMessage) return choiceEnded();
     return native(message, w, l);
   }
 
@@ -56,6 +61,22 @@ class ComboPeer final : public Peer {
   }
 
  private:
+  void dropped() {
+    changed_ = false;
+    chosen_ = false;
+    widenList();
+  }
+  void changed() {
+    changed_ = true;
+    act(1);
+  }
+  // Not every system tells of a change when the current row is chosen again, and the end of a
+  // choice can come before its change. So this is asked when both have come.
+  LRESULT choiceEnded() {
+    if (std::exchange(chosen_, false) && !changed_) act(1);
+    return 0;
+  }
+
   void showRows() const {
     const RedrawHeld held(hwnd());
     send(CB_RESETCONTENT);
@@ -83,6 +104,9 @@ class ComboPeer final : public Peer {
   }
 
   ComboBox& combo_;
+  // Since the list dropped down: a change of the row has been told; a row was chosen.
+  bool changed_ = false;
+  bool chosen_ = false;
 };
 
 }  // namespace

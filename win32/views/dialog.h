@@ -7,7 +7,7 @@
 
 namespace pelorin {
 
-// Hidden and without controls; null on failure.
+// Hidden and without controls; null when the system refuses, which then tells why.
 HWND makeDialog(const UiThread& ui, HWND ownerOrParent, DWORD style, DWORD extendedStyle);
 
 }  // namespace pelorin

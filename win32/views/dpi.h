@@ -1,19 +1,12 @@
-// Places are given in twips (1/1440 inch) and drawn in pixels of the window's own resolution.
+// Places are given in twips and drawn in pixels of the window's own resolution.
 #pragma once
 
+#include "controls/twips.h"
 #include "win32/views/windows_api.h"
 
 namespace pelorin {
 
-inline constexpr int twipsPerInch = 1440;
 inline constexpr int standardDpi = 96;
-
-inline int twipsToPixels(int twips, int dpi) noexcept {
-  return MulDiv(twips, dpi, twipsPerInch);
-}
-inline int pixelsToTwips(int pixels, int dpi) noexcept {
-  return MulDiv(pixels, twipsPerInch, dpi);
-}
 
 // As the process sees it: a host that knows nothing of resolutions sees 96.
 int dpiOf(HWND window) noexcept;

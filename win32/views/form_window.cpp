@@ -47,7 +47,6 @@ POINT centred(const RECT& over, SIZE size, const RECT& area) {
 FormWindow::FormWindow(UiThread& ui, Form& form, HWND owner)
     : NativeWindow(ui), form_(&form), name_(form.name()) {
   attach(makeDialog(ui, owner, styleOf(form), extendedStyleOf(form)));
-  if (hwnd() == nullptr) return;
   keepFromScaling(hwnd());
   form.setView(this);
   captionChanged();
@@ -135,22 +134,13 @@ void FormWindow::setOwner(HWND owner) {
   SetWindowLongPtrW(hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
 }
 
-// Else another application's window would come to the front.
-void FormWindow::activateOwner() const {
-  const HWND owner = GetWindow(hwnd(), GW_OWNER);
-  if (GetActiveWindow() != hwnd() || owner == nullptr) return;
-  if (IsWindowVisible(owner) && IsWindowEnabled(owner)) SetActiveWindow(owner);
-}
-
 void FormWindow::retire() {
   Form* form = std::exchange(form_, nullptr);
   if (form == nullptr) return;
   if (form->view() == this) form->setView(nullptr);
   for (const auto& peer : peers_) peer->forget();
   dirty_.clear();
-  if (hwnd() == nullptr) return;
-  activateOwner();
-  ShowWindow(hwnd(), SW_HIDE);
+  if (hwnd() != nullptr) ShowWindow(hwnd(), SW_HIDE);
 }
 
 void FormWindow::captionChanged() {

@@ -1,6 +1,7 @@
 // The native window of one open form: a real dialog that holds a peer for every control.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -20,7 +21,8 @@ namespace pelorin {
 
 class FormWindow final : public NativeWindow, public FormView {
  public:
-  // Makes the hidden window without controls.
+  // Makes the hidden window without controls. Throws what the system gives for a refusal, as
+  // present() does.
   FormWindow(UiThread& ui, Form& form, HWND owner);
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
@@ -48,7 +50,7 @@ class FormWindow final : public NativeWindow, public FormView {
   UiThread& uiThread() const noexcept { return ui(); }
   const FontSet& fonts() const noexcept { return *fonts_; }
   int dpi() const noexcept { return dpi_; }
-  int pixels(int twips) const noexcept { return twipsToPixels(twips, dpi_); }
+  int pixels(std::int64_t twips) const noexcept { return twipsToPixels(twips, dpi_); }
   void markDirty(Peer& peer);
 
   void moveFocus(HWND control) const;
@@ -79,7 +81,6 @@ class FormWindow final : public NativeWindow, public FormView {
   void build(Control& control);
   HWND parentFor(const Control& control);
   void showAtOwner();
-  void activateOwner() const;
 
   // form_window_follow.cpp: following the models
   std::vector<Changed> takeChanges();
@@ -123,6 +124,7 @@ class FormWindow final : public NativeWindow, public FormView {
   std::vector<Peer*> dirty_;
   std::optional<MSG> key_;
   bool presented_ = false;
+  bool focusLate_ = false;  // the focus has to follow the form's as soon as the control is shown
 };
 
 }  // namespace pelorin

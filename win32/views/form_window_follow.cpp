@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "win32/views/form_window.h"
 
 namespace pelorin {
@@ -15,21 +13,13 @@ bool sameSurface(const Control& one, const Control& other) {
   return one.container() == other.container() && one.page() == other.page();
 }
 
-bool contains(const Place& outer, const Place& inner) {
-  return inner.left >= outer.left && inner.top >= outer.top &&
-         inner.left + inner.width <= outer.left + outer.width &&
-         inner.top + inner.height <= outer.top + outer.height;
-}
-
 bool overlap(const Place& one, const Place& other) {
-  return one.left < other.left + other.width && other.left < one.left + one.width &&
-         one.top < other.top + other.height && other.top < one.top + one.height;
+  return one.left < rightOf(other) && other.left < rightOf(one) && one.top < bottomOf(other) &&
+         other.top < bottomOf(one);
 }
 
-// A visible frame laid over a control hides it, from the keyboard as well.
-bool coveredBy(const Control& group, const Control& control) {
-  return group.kind() == ControlKind::Frame && &group != &control && group.visible() &&
-         sameSurface(group, control) && contains(group.place(), control.place());
+bool takesInput(const Control& control) {
+  return control.enabled() && !control.covered();
 }
 
 }  // namespace
@@ -58,6 +48,7 @@ void FormWindow::flush() {
   }
   layOut(moved);
   followReach(changes);
+  if (std::exchange(focusLate_, false)) focusMoved();
 }
 
 // First what comes within reach, then what goes out of it, so that the focus finds a new place.
@@ -67,7 +58,7 @@ void FormWindow::followReach(const std::vector<Changed>& changes) {
     for (const auto& [peer, changed] : changes) {
       if (form_ == nullptr) return;
       const Control& control = peer->control();
-      if ((changed & Peer::bit(Aspect::Enabled)) != 0 && control.enabled() == coming) {
+      if ((changed & Peer::bit(Aspect::Enabled)) != 0 && takesInput(control) == coming) {
         followEnabled(*peer);
       }
       if (form_ != nullptr && (changed & Peer::bit(Aspect::Visible)) != 0 &&
@@ -76,26 +67,23 @@ void FormWindow::followReach(const std::vector<Changed>& changes) {
       }
     }
   }
-  const bool groups = std::any_of(changes.begin(), changes.end(), [](const Changed& change) {
-    return change.first->control().kind() == ControlKind::Frame &&
-           (change.second & (layout | reach)) != 0;
-  });
-  if (!groups) return;
-  for (std::size_t i = 0; form_ != nullptr && i < peers_.size(); ++i) followVisible(*peers_[i]);
+  for (const auto& [peer, changed] : changes) {
+    if (form_ == nullptr) return;
+    const Control& control = peer->control();
+    const bool frame = control.kind() == ControlKind::Frame && control.visible();
+    if (frame && (changed & (layout | reach)) != 0) followStacking(*peer);
+  }
 }
 
 void FormWindow::followEnabled(const Peer& peer) {
-  const bool enabled = peer.control().enabled();
+  const bool enabled = takesInput(peer.control());
   if (!enabled) leave(peer.hwnd());
   EnableWindow(peer.hwnd(), enabled);
 }
 
 void FormWindow::followVisible(const Peer& peer) {
   const Control& control = peer.control();
-  const bool shown =
-      control.visible() && std::none_of(peers_.begin(), peers_.end(), [&](const auto& other) {
-        return coveredBy(other->control(), control);
-      });
+  const bool shown = control.visible();
   if (shown && control.kind() == ControlKind::Frame) followStacking(peer);
   const bool isShown = (GetWindowLongW(peer.hwnd(), GWL_STYLE) & WS_VISIBLE) != 0;
   if (shown == isShown) return;
@@ -147,7 +135,12 @@ void FormWindow::focusMoved() {
   if (form_ == nullptr || form_->focused() == nullptr || GetActiveWindow() != hwnd()) return;
   const auto* peer = static_cast<Peer*>(form_->focused()->view());
   if (peer == nullptr || GetFocus() == peer->hwnd()) return;
-  if (IsWindowVisible(peer->hwnd()) && IsWindowEnabled(peer->hwnd())) moveFocus(peer->hwnd());
+  if (IsWindowVisible(peer->hwnd()) && IsWindowEnabled(peer->hwnd())) {
+    moveFocus(peer->hwnd());
+  } else {
+    // A control that the same handler has just brought within reach.
+    focusLate_ = form_->focused()->reachable();
+  }
 }
 
 void FormWindow::selectPage(TabControl& tabs, int page) {

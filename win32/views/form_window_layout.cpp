@@ -51,8 +51,7 @@ class Moves {
 // Both edges are scaled, so that neighbours that touch in twips touch in pixels.
 RECT FormWindow::placeOf(const Control& control) const {
   const Place& place = control.place();
-  RECT rect{pixels(place.left), pixels(place.top), pixels(place.left + place.width),
-            pixels(place.top + place.height)};
+  RECT rect{pixels(place.left), pixels(place.top), pixels(rightOf(place)), pixels(bottomOf(place))};
   if (const Control* container = control.container()) {
     const POINT origin = static_cast<Peer*>(container->view())->pageOrigin();
     OffsetRect(&rect, -origin.x, -origin.y);

@@ -5,8 +5,7 @@ namespace pelorin {
 
 namespace {
 
-// Shows the rows below the header as the rows of a report list. Columns without width have no
-// native column, else an operator could drag them into sight.
+// Shows the rows below the header as the rows of a report list.
 class GridPeer final : public ReportPeer {
  public:
   GridPeer(FormWindow& window, Grid& grid) : ReportPeer(window, grid), grid_(grid) {}
@@ -14,17 +13,16 @@ class GridPeer final : public ReportPeer {
  protected:
   std::vector<Column> columns() const override {
     std::vector<Column> result;
-    for (const int column : shownColumns()) {
+    result.reserve(static_cast<std::size_t>(grid_.columns()));
+    for (int column = 0; column < grid_.columns(); ++column) {
       result.push_back({header(column), grid_.columnWidth(column)});
     }
     return result;
   }
   int rowCount() const override { return grid_.rows() - grid_.fixedRows(); }
   std::string cellText(int row, int column) const override {
-    const std::vector<int> shown = shownColumns();
-    const auto position = static_cast<std::size_t>(column);
-    if (row < 0 || row >= rowCount() || position >= shown.size()) return {};
-    return grid_.cell(row + grid_.fixedRows(), shown[position]);
+    const bool known = row >= 0 && row < rowCount() && column >= 0 && column < grid_.columns();
+    return known ? grid_.cell(row + grid_.fixedRows(), column) : std::string();
   }
   int currentRow() const override { return dataRow(grid_.row()); }
   int caretRow() const override { return dataRow(grid_.caretRow()); }
@@ -42,13 +40,6 @@ class GridPeer final : public ReportPeer {
   }
   std::string header(int column) const {
     return grid_.fixedRows() > 0 ? grid_.cell(0, column) : std::string();
-  }
-  std::vector<int> shownColumns() const {
-    std::vector<int> result;
-    for (int column = 0; column < grid_.columns(); ++column) {
-      if (grid_.columnWidth(column) > 0) result.push_back(column);
-    }
-    return result;
   }
 
   Grid& grid_;

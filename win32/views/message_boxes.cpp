@@ -20,10 +20,17 @@ BoxAnswer answerOf(int result) {
   return result == IDOK ? BoxAnswer::Ok : BoxAnswer::No;
 }
 
+int show(const BoxRequest& request, HWND owner) {
+  return MessageBoxW(owner, toWide(request.text).c_str(), L"Pelorin",
+                     flagsOf(request, owner != nullptr));
+}
+
 // Takes input from windows, and gives it back to those that had it, last taken first.
 class InputHeld {
  public:
   InputHeld(const std::vector<HWND>& windows, HWND except) {
+    // Room first: whatever is held back must be given free.
+    held_.reserve(windows.size());
     for (HWND window : windows) {
       if (window == except || !IsWindowEnabled(window)) continue;
       EnableWindow(window, FALSE);
@@ -49,10 +56,13 @@ class InputHeld {
 // The box itself holds its owner back, and gives it free before it closes.
 BoxAnswer showMessageBox(UiThread& ui, const BoxRequest& request, HWND owner,
                          const std::vector<HWND>& ours) {
-  const std::wstring text = toWide(request.text);
   const UiThread::ModalScope modal(ui);
   const InputHeld held(ours, owner);
-  return answerOf(MessageBoxW(owner, text.c_str(), L"Pelorin", flagsOf(request, owner != nullptr)));
+  return answerOf(show(request, owner));
+}
+
+void showLoneBox(const BoxRequest& request) {
+  show(request, nullptr);
 }
 
 }  // namespace pelorin

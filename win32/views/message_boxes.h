@@ -13,4 +13,7 @@ namespace pelorin {
 BoxAnswer showMessageBox(UiThread& ui, const BoxRequest& request, HWND owner,
                          const std::vector<HWND>& ours);
 
+// From a thread that has no part in the component's windows.
+void showLoneBox(const BoxRequest& request);
+
 }  // namespace pelorin

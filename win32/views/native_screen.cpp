@@ -27,7 +27,7 @@ void loadCommonControls() {
 
 }  // namespace
 
-NativeScreen::NativeScreen(HINSTANCE module) : ui_(module) {
+NativeScreen::NativeScreen(HINSTANCE module) : ui_(module, acts()) {
   ui_.onFlush = [this] { flush(); };
   ui_.onIdle = [this] { idle(); };
   const ActivationContext::Scope styles(ui_.styles());
@@ -38,6 +38,7 @@ NativeScreen::~NativeScreen() {
   unloadAll();
   ui_.onFlush = nullptr;
   ui_.onIdle = nullptr;
+  ui_.onRest = nullptr;
 }
 
 FormWindow* NativeScreen::find(const Form& form) const {
@@ -46,15 +47,23 @@ FormWindow* NativeScreen::find(const Form& form) const {
   return found == windows_.end() ? nullptr : found->get();
 }
 
+void NativeScreen::unloadLost() {
+  for (Form* form : std::vector<Form*>(openForms())) {
+    // A form may go with its owner; one that is being opened has no window yet.
+    const FormWindow* window = find(*form);
+    if (window != nullptr && IsWindow(window->hwnd()) == FALSE) unload(*form);
+  }
+}
+
 WindowHandle NativeScreen::windowOf(const Form& form) const {
   const FormWindow* window = find(form);
   return window == nullptr ? 0 : reinterpret_cast<WindowHandle>(window->hwnd());
 }
 
 void NativeScreen::createWindow(Form& form, WindowHandle owner) {
-  if (keyboard_ == nullptr) keyboard_ = std::make_unique<KeyboardHook>();
   auto window = std::make_unique<FormWindow>(ui_, form, liveOrNone(owner));
   window->onDestroyed = [this](Form& gone) { unload(gone); };
+  if (keyboard_ == nullptr) keyboard_ = std::make_unique<KeyboardHook>();
   windows_.push_back(std::move(window));
 }
 
@@ -74,6 +83,14 @@ void NativeScreen::raiseWindow(Form& form) {
 
 void NativeScreen::changeOwner(Form& form, WindowHandle owner) {
   if (FormWindow* window = find(form)) window->setOwner(liveOrNone(owner));
+}
+
+// Else the system would pick a window by its order, of another application perhaps.
+void NativeScreen::passActivation(Form& form, WindowHandle owner) {
+  const HWND next = liveOrNone(owner);
+  const bool active = windowOf(form) != 0 && handleOf(windowOf(form)) == GetActiveWindow();
+  if (!active || next == nullptr) return;
+  if (IsWindowVisible(next) && IsWindowEnabled(next)) SetActiveWindow(next);
 }
 
 // Inside one of our window procedures the window is only hidden: its controls may still be at work.

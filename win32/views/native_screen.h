@@ -1,12 +1,14 @@
 // The screen of Windows: forms become dialogs with the system's own controls, inside a host's
-// message loop. All calls come from the thread that owns the windows.
+// message loop. All calls come from the thread that made the screen, which owns the windows.
 //
 //   NativeScreen screen(module);          // the module that holds the code and manifest resource 2
 //   screen.setHostWindow(handle);
 //   screen.show(form, handle);
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "controls/screen.h"
@@ -25,18 +27,25 @@ class NativeScreen final : public Screen {
   // Unloads what is still open.
   ~NativeScreen() override;
 
-  // Owns message boxes while none of our windows is active; 0 or a window that is gone: none.
-  void setHostWindow(WindowHandle window) noexcept { host_ = window; }
+  // Nothing of ours is on the call stack any more.
+  void onRest(std::function<void()> rest) { ui_.onRest = std::move(rest); }
+  bool insideWindowProcedure() const noexcept { return ui_.insideWindowProcedure(); }
+  // A window that is there for as long as the thread of this screen.
+  HWND threadsWindow() const noexcept { return ui_.window(); }
+  // Unloads forms whose windows went without a word to us.
+  void unloadLost();
 
   BoxAnswer messageBox(const BoxRequest& request) override;
   MousePointer mousePointer() const override { return ui_.pointer(); }
   void setMousePointer(MousePointer pointer) override { ui_.setPointer(pointer); }
   WindowHandle windowOf(const Form& form) const override;
+  void setHostWindow(WindowHandle window) override { host_ = window; }
 
  protected:
   void createWindow(Form& form, WindowHandle owner) override;
   void presentWindow(Form& form) override;
   void raiseWindow(Form& form) override;
+  void passActivation(Form& form, WindowHandle owner) override;
   void destroyWindow(Form& form) override;
   void changeOwner(Form& form, WindowHandle owner) override;
 

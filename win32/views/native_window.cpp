@@ -1,8 +1,11 @@
 #include "win32/views/native_window.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
+#include "controls/run_time_error.h"
+#include "win32/text/system_text.h"
 #include "win32/text/utf16.h"
 #include "win32/views/firewall.h"
 #include "win32/views/windows_api.h"
@@ -14,6 +17,14 @@ namespace {
 constexpr UINT_PTR subclassId = 1;
 // Leads from the window to its object.
 constexpr const wchar_t* objectProperty = L"Pelorin.NativeWindow";
+constexpr std::int32_t outOfMemory = 7;
+
+// Not every refusal comes with a reason.
+RunTimeError refusedWindow(DWORD code) {
+  const std::string text = code == ERROR_SUCCESS ? std::string() : systemText(code);
+  if (text.empty()) return {outOfMemory, "Out of memory"};
+  return {HRESULT_FROM_WIN32(code), text};
+}
 
 }  // namespace
 
@@ -25,8 +36,8 @@ NativeWindow* NativeWindow::of(HWND window) noexcept {
   return static_cast<NativeWindow*>(GetPropW(window, objectProperty));
 }
 
-void NativeWindow::attach(HWND window) noexcept {
-  if (window == nullptr) return;
+void NativeWindow::attach(HWND window) {
+  if (window == nullptr) throw refusedWindow(GetLastError());
   hwnd_ = window;
   SetPropW(window, objectProperty, this);
   SetWindowSubclass(window, &procedure, subclassId, reinterpret_cast<DWORD_PTR>(this));

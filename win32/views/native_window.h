@@ -22,7 +22,8 @@ class NativeWindow {
 
  protected:
   UiThread& ui() const noexcept { return ui_; }
-  void attach(HWND window) noexcept;
+  // Null is a window that the system refused to make: throws its error.
+  void attach(HWND window);
   void destroy() noexcept;
   // Answered to the message WM_GETCONTROLNAME.
   virtual std::string designName() const = 0;

@@ -33,7 +33,7 @@ void Peer::build(HWND parent, int id) {
   const NativeKind kind = nativeKind();
   const Applying quiet(*this);
   DWORD style = kind.style | WS_CHILD | WS_CLIPSIBLINGS;
-  if (!control_.enabled()) style |= WS_DISABLED;
+  if (!control_.enabled() || control_.covered()) style |= WS_DISABLED;
   const ActivationContext::Scope styles(ui().styles());
   attach(CreateWindowExW(
       kind.extendedStyle, kind.windowClass, toWide(control_.text()).c_str(), style, 0, 0, 0, 0,

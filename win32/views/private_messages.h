@@ -7,5 +7,6 @@ namespace pelorin {
 
 inline constexpr UINT wakeMessage = WM_APP + 1;
 inline constexpr UINT keyMessage = WM_APP + 2;
+inline constexpr UINT choiceMessage = WM_APP + 3;
 
 }  // namespace pelorin

@@ -81,6 +81,27 @@ void ReportPeer::showColumns() {
   shownColumns_ = std::move(wanted);
 }
 
+bool ReportPeer::isHidden(std::size_t column) const {
+  return column < shownColumns_.size() && shownColumns_[column].width == 0;
+}
+
+// By dragging its edge, by a double click on it, or by any other change of its width.
+bool ReportPeer::wouldShowHidden(const NMHEADERW& change) const {
+  switch (change.hdr.code) {
+    case static_cast<UINT>(HDN_BEGINTRACKA):
+    case static_cast<UINT>(HDN_BEGINTRACKW):
+    case static_cast<UINT>(HDN_DIVIDERDBLCLICKA):
+    case static_cast<UINT>(HDN_DIVIDERDBLCLICKW):
+      return isHidden(static_cast<std::size_t>(change.iItem));
+    case static_cast<UINT>(HDN_ITEMCHANGINGA):
+    case static_cast<UINT>(HDN_ITEMCHANGINGW):
+      return isHidden(static_cast<std::size_t>(change.iItem)) && change.pitem != nullptr &&
+             (change.pitem->mask & HDI_WIDTH) != 0 && change.pitem->cxy != 0;
+    default:
+      return false;
+  }
+}
+
 void ReportPeer::showCount() {
   send(LVM_SETITEMCOUNT, static_cast<WPARAM>(rowCount()), LVSICF_NOSCROLL);
 }
@@ -174,6 +195,8 @@ LRESULT ReportPeer::onNotify(NMHDR& header) {
 }
 
 LRESULT ReportPeer::handle(UINT message, WPARAM w, LPARAM l) {
+  if (message == LVM_SETCOLUMNWIDTH && isHidden(w)) return FALSE;
+  if (message == WM_NOTIFY && wouldShowHidden(*reinterpret_cast<const NMHEADERW*>(l))) return TRUE;
   const LRESULT result = native(message, w, l);
   if (!applying() && message != LVM_GETTOPINDEX) reportTop();
   return result;

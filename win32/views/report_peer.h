@@ -19,7 +19,7 @@ class ReportPeer : public Peer {
  protected:
   struct Column {
     std::string header;
-    int width;  // twips
+    int width;  // twips; 0 hides the column from the operator for good
     bool operator==(const Column&) const = default;
   };
   // The model, with rows and columns counted from 0 as they are shown. Texts of rows that are gone
@@ -54,6 +54,8 @@ class ReportPeer : public Peer {
   static constexpr unsigned checkAct = 4;
 
   void showColumns();
+  bool isHidden(std::size_t column) const;
+  bool wouldShowHidden(const NMHEADERW& change) const;
   void showCount();
   void showCurrent() const;
   void showTop() const;

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "win32/text/utf16.h"
 #include "win32/views/form_window.h"
 #include "win32/views/peers.h"
@@ -37,23 +39,27 @@ class TextBoxPeer final : public Peer {
 
   // Characters are offered to the model one by one; pasted text is not.
   LRESULT handle(UINT message, WPARAM w, LPARAM l) override {
-    if (message == WM_CHAR && live() && !keep(static_cast<wchar_t>(w))) return 0;
+    if (message == WM_CHAR && live()) return character(static_cast<wchar_t>(w), l);
     return native(message, w, l);
   }
 
  private:
-  // A character beyond 16 bits arrives in two halves and is judged as one with the second.
-  bool keep(wchar_t unit) {
+  // A character beyond 16 bits arrives in two halves: it is judged as one, and kept as one, with
+  // the second.
+  LRESULT character(wchar_t unit, LPARAM key) {
     if (IS_HIGH_SURROGATE(unit)) {
       high_ = unit;
-      return true;
+      return 0;
     }
-    char32_t character = unit;
-    if (IS_LOW_SURROGATE(unit) && high_ != 0) {
-      character = 0x10000U + ((char32_t{high_} - 0xD800U) << 10U) + (char32_t{unit} - 0xDC00U);
-    }
-    high_ = 0;
-    return box_.userKey(character);
+    const wchar_t high = std::exchange(high_, L'\0');
+    const bool pair = IS_LOW_SURROGATE(unit) && high != 0;
+    if (!box_.userKey(pair ? joined(high, unit) : char32_t{unit})) return 0;
+    if (pair) native(WM_CHAR, high, key);
+    return native(WM_CHAR, unit, key);
+  }
+
+  static char32_t joined(wchar_t high, wchar_t low) {
+    return 0x10000U + ((char32_t{high} - 0xD800U) << 10U) + (char32_t{low} - 0xDC00U);
   }
 
   TextBox& box_;

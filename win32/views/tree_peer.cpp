@@ -62,6 +62,11 @@ class TreePeer final : public Peer {
     if ((changed & (bit(Aspect::Items) | bit(Aspect::Selection))) != 0) showSelection();
   }
 
+  LRESULT handle(UINT message, WPARAM w, LPARAM l) override {
+    if (message == WM_CHAR && live()) tree_.userKey(static_cast<char32_t>(w));
+    return native(message, w, l);
+  }
+
   void runActs(unsigned acts) override {
     TreeNode* node = items_->nodeOf(selectedItem());
     const bool moved = node != nullptr && node != tree_.selectedNode();

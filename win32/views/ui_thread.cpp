@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "controls/flag_while.h"
 #include "win32/views/firewall.h"
 #include "win32/views/native_window.h"
 #include "win32/views/private_messages.h"
@@ -28,19 +29,21 @@ class UiThread::Sink : public NativeWindow {
   }
 };
 
-UiThread::UiThread(HINSTANCE module)
+UiThread::UiThread(HINSTANCE module, Acts& acts)
     : module_(module),
+      acts_(acts),
       styles_(module),
-      controlNameMessage_(RegisterWindowMessageW(L"WM_GETCONTROLNAME")) {}
+      controlNameMessage_(RegisterWindowMessageW(L"WM_GETCONTROLNAME")),
+      sink_(std::make_unique<Sink>(*this)) {}
 
 UiThread::~UiThread() = default;
 
-void UiThread::wake() noexcept {
-  shielded(0, [this] {
-    if (sink_ == nullptr) sink_ = std::make_unique<Sink>(*this);
-    PostMessageW(sink_->hwnd(), wakeMessage, 0, 0);
-    return 0;
-  });
+HWND UiThread::window() const noexcept {
+  return sink_->hwnd();
+}
+
+void UiThread::wake() const noexcept {
+  PostMessageW(window(), wakeMessage, 0, 0);
 }
 
 // The wake-up message itself is a window procedure of ours: depth 1 is the outermost.
@@ -62,16 +65,18 @@ void UiThread::requestIdle() noexcept {
 // Following a model can move the focus, which runs handlers, which change models again.
 void UiThread::flush() {
   constexpr int plenty = 10;
-  if (std::exchange(flushing_, true)) return;
+  if (flushing_) return;
+  const FlagWhile flushing(flushing_);
   for (int round = 0; flushWanted_ && round < plenty; ++round) {
     flushWanted_ = false;
     if (onFlush) onFlush();
   }
-  flushing_ = false;
 }
 
+// The default pointer is set even if it was none of ours that is shown: the host may have shown its
+// hourglass before it called.
 void UiThread::setPointer(MousePointer pointer) noexcept {
-  if (pointer == std::exchange(pointer_, pointer)) return;
+  pointer_ = pointer;
   if (!showPointer()) SetCursor(LoadCursorW(nullptr, IDC_ARROW));
 }
 
@@ -81,30 +86,35 @@ bool UiThread::showPointer() const noexcept {
   return true;
 }
 
-UiThread::Scope::Scope(UiThread& ui) : ui_(ui), styles_(ui.styles()) {
-  if (++ui_.depth_ == ui_.floor_ + 1 && ui_.flushWanted_) ui_.flush();
+UiThread::Depth::~Depth() {
+  if (--ui_.depth_ > 0) return;
+  if (ui_.idleWanted_) ui_.wake();
+  shielded(0, [this] {
+    if (ui_.onRest) ui_.onRest();
+    return 0;
+  });
+}
+
+UiThread::Scope::Scope(UiThread& ui) : ui_(ui), styles_(ui.styles()), depth_(ui), act_(ui.acts_) {
+  if (ui_.depth_ == ui_.floor_ + 1 && ui_.flushWanted_) ui_.flush();
 }
 
 UiThread::Scope::~Scope() {
-  if (ui_.depth_ == ui_.floor_ + 1 && ui_.flushWanted_) {
-    shielded(0, [this] {
-      ui_.flush();
-      return 0;
-    });
-  }
-  if (--ui_.depth_ == 0 && ui_.idleWanted_) ui_.wake();
+  if (ui_.depth_ != ui_.floor_ + 1 || !ui_.flushWanted_) return;
+  shielded(0, [this] {
+    ui_.flush();
+    return 0;
+  });
 }
 
 UiThread::ModalScope::ModalScope(UiThread& ui)
-    : ui_(ui), styles_(ui.styles()), outerFloor_(ui.floor_) {
-  ++ui_.depth_;
+    : ui_(ui), styles_(ui.styles()), depth_(ui), outerFloor_(ui.floor_) {
   ui_.flush();
   ui_.floor_ = ui_.depth_;
 }
 
 UiThread::ModalScope::~ModalScope() {
   ui_.floor_ = outerFloor_;
-  if (--ui_.depth_ == 0 && ui_.idleWanted_) ui_.wake();
 }
 
 }  // namespace pelorin

@@ -16,7 +16,9 @@ namespace pelorin {
 
 class UiThread {
  public:
-  explicit UiThread(HINSTANCE module);
+  // For the calling thread; `acts` are those that begin in the component's windows. Throws the
+  // system's error when it has no room for another window.
+  UiThread(HINSTANCE module, Acts& acts);
   ~UiThread();
   UiThread(const UiThread&) = delete;
   UiThread& operator=(const UiThread&) = delete;
@@ -27,8 +29,13 @@ class UiThread {
 
   // Brings the native controls up to date.
   std::function<void()> onFlush;
-  // Nothing of ours is on the call stack.
+  // The outermost window procedure of ours returns.
+  std::function<void()> onRest;
+  // As the message loop comes round after a request: nothing of the system's controls is on the
+  // call stack either.
   std::function<void()> onIdle;
+  // Receives the thread's private messages, and lives as long as the thread.
+  HWND window() const noexcept;
 
   void requestFlush() noexcept;
   void requestIdle() noexcept;
@@ -40,7 +47,19 @@ class UiThread {
   // Shows the hourglass; false when Windows shall choose the pointer.
   bool showPointer() const noexcept;
 
-  // One for each entry into a window procedure of ours.
+  // Counts what of ours is on the call stack; the last one to go lets the thread be idle.
+  class Depth {
+   public:
+    explicit Depth(UiThread& ui) noexcept : ui_(ui) { ++ui_.depth_; }
+    Depth(const Depth&) = delete;
+    Depth& operator=(const Depth&) = delete;
+    ~Depth();
+
+   private:
+    UiThread& ui_;
+  };
+
+  // One for each entry into a window procedure of ours, which can be an act of the operator.
   class Scope {
    public:
     explicit Scope(UiThread& ui);
@@ -51,6 +70,8 @@ class UiThread {
    private:
     UiThread& ui_;
     ActivationContext::Scope styles_;
+    Depth depth_;
+    Act act_;
   };
 
   // A message loop that runs inside a handler (a message box, a menu). The handler is on the stack
@@ -65,15 +86,17 @@ class UiThread {
    private:
     UiThread& ui_;
     ActivationContext::Scope styles_;
+    Depth depth_;
     int outerFloor_;
   };
 
  private:
   class Sink;
-  void wake() noexcept;
+  void wake() const noexcept;
   void awake();
 
   HINSTANCE module_;
+  Acts& acts_;
   ActivationContext styles_;
   UINT controlNameMessage_;
   std::unique_ptr<Sink> sink_;

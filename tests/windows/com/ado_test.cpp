@@ -153,6 +153,128 @@ TEST_F(AdoTest, databaseErrorKeepsNumberTextAndLine) {
   }
 }
 
+TEST_F(AdoTest, cellOfAnUnknownTypeIsAnErrorOnlyWhereItIsRead) {
+  FakeResult result{{"ID", "Shape"}, {}};
+  for (int i = 0; i < 600; ++i) {
+    result.rows.push_back({Variant::int32(i), Variant::object(ado.connection.get())});
+  }
+  ado.give("select", result);
+  RecordSet rows = connection->open("select");
+  int count = 0;
+  while (rows.next()) EXPECT_EQ(rows.int32("ID"), count++);
+  EXPECT_EQ(count, 600);
+  RecordSet again = connection->open("select");
+  ASSERT_TRUE(again.next());
+  try {
+    again.text("Shape");
+    FAIL();
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.number(), 13);
+  }
+}
+
+TEST_F(AdoTest, rowsBeforeALostBlockAreRead) {
+  ado.failingRow = 700;
+  ado.give("select", numbers(900));
+  RecordSet rows = connection->open("select");
+  int count = 0;
+  EXPECT_THROW(
+      {
+        while (rows.next()) ++count;
+      },
+      RunTimeError);
+  EXPECT_EQ(count, 500);
+  EXPECT_EQ(*ado.openRecordsets, 0);
+}
+
+TEST_F(AdoTest, endlessChainOfRowCountsEnds) {
+  auto counts = FakeObject::make();
+  counts->on(L"State", answer(Variant::int32(0))).on(L"NextRecordset", [&counts](Call& call) {
+    return answerObject(counts)(call);
+  });
+  auto object = FakeObject::make();
+  object->on(L"Execute", answerObject(counts));
+  AdoConnection other{ComPtr<IDispatch>(object.get())};
+  try {
+    other.open("exec Endless");
+    FAIL();
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.number(), 3704);
+  }
+}
+
+struct LostConnectionTest : AdoTest {
+  bool lostAfterAnError() {
+    ado.failures["select"] = L"failed";
+    try {
+      connection->open("select");
+    } catch (const RunTimeError& error) {
+      return error.connectionLost();
+    }
+    ADD_FAILURE() << "no error";
+    return false;
+  }
+};
+
+TEST_F(LostConnectionTest, isOpenWithoutErrorsOfItsOwn) {
+  EXPECT_FALSE(lostAfterAnError());
+  ado.state = 5;  // open and executing
+  EXPECT_FALSE(lostAfterAnError());
+}
+
+TEST_F(LostConnectionTest, isOneThatIsNoLongerOpen) {
+  ado.state = 0;
+  EXPECT_TRUE(lostAfterAnError());
+}
+
+TEST_F(LostConnectionTest, isOneWhoseFirstErrorIsOfTheConnection) {
+  ado.sqlStates = {"08S01"};
+  EXPECT_TRUE(lostAfterAnError());
+  ado.sqlStates = {"42S02", "08S01"};
+  EXPECT_FALSE(lostAfterAnError());
+}
+
+TEST_F(LostConnectionTest, isNotOneThatTellsNothing) {
+  auto object = FakeObject::make();
+  object->on(L"Execute", fail(E_FAIL, L"failed"));
+  AdoConnection silent{ComPtr<IDispatch>(object.get())};
+  try {
+    silent.execute("delete");
+    FAIL();
+  } catch (const RunTimeError& error) {
+    EXPECT_FALSE(error.connectionLost());
+  }
+}
+
+TEST_F(LostConnectionTest, isNoticedByStatementsAndProcedures) {
+  ado.failures["delete"] = L"failed";
+  ado.state = 0;
+  ProcedureCall procedure{"DVR_AddAction", {}};
+  const auto lost = [](auto&& work) {
+    try {
+      work();
+    } catch (const RunTimeError& error) {
+      return error.connectionLost();
+    }
+    return false;
+  };
+  EXPECT_TRUE(lost([&] { connection->execute("delete"); }));
+  EXPECT_TRUE(lost([&] { connection->execute(procedure); }));
+}
+
+TEST_F(LostConnectionTest, isNoticedByAFetch) {
+  ado.failingRow = 0;
+  ado.give("select", numbers(3));
+  RecordSet rows = connection->open("select");
+  ado.state = 0;
+  try {
+    rows.next();
+    FAIL();
+  } catch (const RunTimeError& error) {
+    EXPECT_TRUE(error.connectionLost());
+  }
+}
+
 TEST_F(AdoTest, neverClosesTheLentConnectionAndGivesItBack) {
   ado.connection->on(L"Close", answer(Variant()));
   ado.give("select", numbers(2));

@@ -4,6 +4,8 @@
 
 #include <array>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include "addin/dll/files.h"
 #include "addin/dll/windows_environment.h"
@@ -12,6 +14,16 @@
 
 namespace pelorin::test {
 namespace {
+
+template <class Work>
+RunTimeError thrownBy(Work&& work) {
+  try {
+    work();
+  } catch (const RunTimeError& error) {
+    return error;
+  }
+  return {0, "no error"};
+}
 
 struct EnvironmentTest : ::testing::Test {
   WindowsEnvironment environment;
@@ -66,35 +78,81 @@ TEST_F(EnvironmentTest, folderThatIsMissingTakesNoLine) {
   EXPECT_FALSE(environment.appendLine(file("missing\\log.txt"), "one"));
 }
 
-TEST_F(EnvironmentTest, missingFileIsError53) {
-  try {
-    environment.readFile(file("missing"));
-    FAIL();
-  } catch (const RunTimeError& error) {
+TEST_F(EnvironmentTest, missingFileIsError53WithItsName) {
+  for (const std::string& missing : {file("missing"), file("missing\\too")}) {
+    const RunTimeError error = thrownBy([&] { environment.readFile(missing); });
     EXPECT_EQ(error.number(), 53);
+    EXPECT_EQ(error.description(), "File not found: " + missing);
   }
 }
 
+TEST_F(EnvironmentTest, fileThatIsThereAndCannotBeReadIsError75WithItsName) {
+  files::replace(file("data.bin"), "held");
+  HANDLE held = CreateFileW(toWide(file("data.bin")).c_str(), GENERIC_READ, 0, nullptr,
+                            OPEN_EXISTING, 0, nullptr);
+  const RunTimeError error = thrownBy([&] { environment.readFile(file("data.bin")); });
+  CloseHandle(held);
+  EXPECT_EQ(error.number(), 75);
+  EXPECT_EQ(error.description(), "Path/File access error: " + file("data.bin"));
+  EXPECT_EQ(thrownBy([&] { environment.readFile(folder); }).number(), 75);
+}
+
 TEST_F(EnvironmentTest, writtenFileReplacesTheOldOne) {
-  environment.writeFile(file("data.bin"), std::string("old and longer"));
-  environment.writeFile(file("data.bin"), std::string("new\0!", 5));
+  files::replace(file("data.bin"), std::string("old and longer"));
+  files::replace(file("data.bin"), std::string("new\0!", 5));
   EXPECT_EQ(environment.readFile(file("data.bin")), std::string("new\0!", 5));
   EXPECT_THROW(environment.readFile(file("data.bin.new")), RunTimeError);
 }
 
 TEST_F(EnvironmentTest, fileThatCannotBeReplacedKeepsItsContent) {
-  environment.writeFile(file("data.bin"), "old");
+  files::replace(file("data.bin"), "old");
   HANDLE held = CreateFileW(toWide(file("data.bin")).c_str(), GENERIC_READ, FILE_SHARE_READ,
                             nullptr, OPEN_EXISTING, 0, nullptr);
-  try {
-    environment.writeFile(file("data.bin"), "new");
-    ADD_FAILURE();
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.number(), 75);
-  }
+  EXPECT_EQ(thrownBy([&] { files::replace(file("data.bin"), "new"); }).number(), 75);
   CloseHandle(held);
   EXPECT_EQ(environment.readFile(file("data.bin")), "old");
   EXPECT_THROW(environment.readFile(file("data.bin.new")), RunTimeError);
+}
+
+TEST_F(EnvironmentTest, updateBeginsWithNothingAndGoesOnWithWhatIsThere) {
+  environment.updateFile(file("data.bin"), [](const std::string& old) { return old + "a"; });
+  environment.updateFile(file("data.bin"), [](const std::string& old) { return old + "b"; });
+  EXPECT_EQ(environment.readFile(file("data.bin")), "ab");
+}
+
+TEST_F(EnvironmentTest, updateOfAFileThatCannotBeReadChangesNothing) {
+  files::replace(file("data.bin"), "old");
+  HANDLE held = CreateFileW(toWide(file("data.bin")).c_str(), GENERIC_READ, FILE_SHARE_DELETE,
+                            nullptr, OPEN_EXISTING, 0, nullptr);
+  const RunTimeError error = thrownBy([&] {
+    environment.updateFile(file("data.bin"), [](const std::string&) { return std::string("new"); });
+  });
+  CloseHandle(held);
+  EXPECT_EQ(error.number(), 75);
+  EXPECT_EQ(environment.readFile(file("data.bin")), "old");
+}
+
+// Threads stand for the processes of two hosts.
+TEST_F(EnvironmentTest, updatesOfManyAtOnceLoseNothing) {
+  constexpr std::size_t writers = 4;
+  constexpr std::size_t updates = 10;
+  std::vector<std::thread> threads;
+  for (std::size_t writer = 0; writer < writers; ++writer) {
+    threads.emplace_back([this] {
+      WindowsEnvironment own;
+      for (std::size_t i = 0; i < updates; ++i) {
+        own.updateFile(file("data.bin"), [](const std::string& old) { return old + "x"; });
+      }
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(environment.readFile(file("data.bin")), std::string(writers * updates, 'x'));
+}
+
+TEST_F(EnvironmentTest, clockNeverGoesBack) {
+  const std::uint64_t before = environment.milliseconds();
+  EXPECT_GE(environment.milliseconds(), before);
+  EXPECT_GE(environment.milliseconds(), GetTickCount64() - 60000);
 }
 
 TEST_F(EnvironmentTest, settingOfAMissingFileOrKeyIsTheFallback) {

@@ -41,6 +41,18 @@ ComPtr<FakeObject> fieldsOf(const FakeResult& result) {
   return fields;
 }
 
+ComPtr<FakeObject> errorsOf(const std::vector<std::string>& sqlStates) {
+  auto errors = FakeObject::make();
+  errors->on(L"Count", answer(Variant::int32(static_cast<std::int32_t>(sqlStates.size()))));
+  errors->onDefault([sqlStates](Call& call) {
+    auto error = FakeObject::make();
+    const auto index = static_cast<std::size_t>(call.arguments[0]->lVal);
+    error->on(L"SQLState", answer(Variant::text(sqlStates[index])));
+    return answerObject(error)(call);
+  });
+  return errors;
+}
+
 Variant truth(bool value) {
   Variant variant;
   variant.vt = VT_BOOL;
@@ -55,6 +67,7 @@ ComPtr<FakeObject> FakeAdo::recordset(const FakeResult& result) {
   const auto next = std::make_shared<std::size_t>(0);
   const auto open = openRecordsets;
   const auto blocks = blockSizes;
+  const auto failing = failingRow;
   ++*open;
   rows->on(L"State", answer(Variant::int32(1)));
   rows->on(L"Fields", answerObject(fieldsOf(result)));
@@ -65,6 +78,7 @@ ComPtr<FakeObject> FakeAdo::recordset(const FakeResult& result) {
     const auto wanted = static_cast<std::size_t>(call.arguments[0]->lVal);
     blocks->push_back(static_cast<int>(wanted));
     const std::size_t count = std::min(wanted, left);
+    if (failing && *failing < *next + count) return fail(E_FAIL, L"block lost")(call);
     const Variant cells = block(result, *next, count);
     *next += count;
     return answer(cells)(call);
@@ -86,7 +100,8 @@ FakeAdo::FakeAdo() {
   });
   connection->on(L"BeginTrans", answer(Variant::int32(1)));
   connection->on(L"ConnectionString", answer(Variant::text("fake")));
-  connection->on(L"State", answer(Variant::int32(1)));
+  connection->on(L"State", [this](Call& call) { return answer(Variant::int32(state))(call); });
+  connection->on(L"Errors", [this](Call& call) { return answerObject(errorsOf(sqlStates))(call); });
 }
 
 }  // namespace pelorin::test

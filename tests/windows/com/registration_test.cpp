@@ -1,5 +1,6 @@
 // What registering leaves in the registry, and what unregistering takes away.
 #include <gtest/gtest.h>
+#include <sddl.h>
 
 #include <array>
 #include <string>
@@ -51,6 +52,38 @@ class OtherArchitecture {
   ~OtherArchitecture() { RegDeleteKeyExW(HKEY_LOCAL_MACHINE, classKey.c_str(), otherView, 0); }
 };
 
+// A key that nobody may write to while this lives.
+class ReadOnlyKey {
+ public:
+  explicit ReadOnlyKey(const std::wstring& path) {
+    RegCreateKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_,
+                    nullptr);
+    allowEverybody(L"D:(A;;KR;;;WD)");
+  }
+  ReadOnlyKey(const ReadOnlyKey&) = delete;
+  ReadOnlyKey& operator=(const ReadOnlyKey&) = delete;
+  ~ReadOnlyKey() {
+    allowEverybody(L"D:(A;;KA;;;WD)");
+    RegCloseKey(key_);
+  }
+
+ private:
+  void allowEverybody(const wchar_t* rights) {
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    ConvertStringSecurityDescriptorToSecurityDescriptorW(rights, SDDL_REVISION_1, &descriptor,
+                                                         nullptr);
+    RegSetKeySecurity(key_, DACL_SECURITY_INFORMATION, descriptor);
+    LocalFree(descriptor);
+  }
+
+  HKEY key_ = nullptr;
+};
+
+void writeText(const std::wstring& path, const wchar_t* name, const std::wstring& text) {
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, path.c_str(), name, REG_SZ, text.c_str(),
+                  static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+}
+
 struct Registration : ::testing::Test {
   const ComponentDll& dll = ComponentDll::instance();
   ~Registration() override { dll.unregisterServer(); }
@@ -61,13 +94,10 @@ TEST_F(Registration, namesTheClassForEverybody) {
   EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\InprocServer32"), dll.path());
   EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\InprocServer32", L"ThreadingModel"),
             L"Apartment");
-  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\ProgID"), L"Pelorin.TAManager.1");
-  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\VersionIndependentProgID"),
-            L"Pelorin.TAManager");
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\ProgID"), L"Pelorin.TAManager");
   EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\TypeLib"), textOf(LIBID_Pelorin));
   EXPECT_EQ(value(HKEY_LOCAL_MACHINE, programKey + L"\\CLSID"), textOf(CLSID_TAManager));
-  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, programKey + L"\\CurVer"), L"Pelorin.TAManager.1");
-  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, programKey + L".1\\CLSID"), textOf(CLSID_TAManager));
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, programKey + L".1"));
 }
 
 TEST_F(Registration, letsAProgramCreateTheClassByName) {
@@ -100,7 +130,6 @@ TEST_F(Registration, isTakenBackWithoutTrace) {
   EXPECT_EQ(dll.unregisterServer(), S_OK);
   EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey));
   EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, programKey));
-  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, programKey + L".1"));
   EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE,
                       L"Software\\Classes\\TypeLib\\" + textOf(LIBID_Pelorin) + L"\\1.0"));
 }
@@ -130,6 +159,40 @@ TEST_F(Registration, forTheUserAloneStaysInTheUsersPart) {
   EXPECT_EQ(dll.install(false, L"user"), S_OK);
   EXPECT_FALSE(exists(HKEY_CURRENT_USER, classKey));
   EXPECT_FALSE(exists(HKEY_CURRENT_USER, programKey));
+}
+
+TEST_F(Registration, withoutRightsIsAccessDenied) {
+  ASSERT_EQ(dll.registerServer(), S_OK);
+  const ReadOnlyKey key(classKey);
+  EXPECT_EQ(dll.registerServer(), E_ACCESSDENIED);
+  EXPECT_EQ(dll.install(true, nullptr), E_ACCESSDENIED);
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\InprocServer32"), dll.path());
+}
+
+TEST_F(Registration, thatFailsLeavesAnotherCopysAsItWas) {
+  const std::wstring server = classKey + L"\\InprocServer32";
+  writeText(classKey, nullptr, L"another copy");
+  writeText(server, nullptr, L"C:\\other\\Pelorin.dll");
+  writeText(server, L"Assembly", L"its own");
+  {
+    // Written after the class.
+    const ReadOnlyKey names(programKey);
+    EXPECT_EQ(dll.registerServer(), E_ACCESSDENIED);
+  }
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey), L"another copy");
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, server), L"C:\\other\\Pelorin.dll");
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, server, L"Assembly"), L"its own");
+  EXPECT_EQ(value(HKEY_LOCAL_MACHINE, server, L"ThreadingModel"), L"(none)");
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey + L"\\ProgID"));
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey + L"\\TypeLib"));
+}
+
+TEST_F(Registration, thatFailsLeavesNothingWhereNothingWas) {
+  {
+    const ReadOnlyKey names(programKey);
+    EXPECT_EQ(dll.registerServer(), E_ACCESSDENIED);
+  }
+  EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey));
 }
 
 TEST_F(Registration, withoutAnArgumentIsForEverybody) {

@@ -9,12 +9,6 @@ namespace pelorin::test {
 
 namespace {
 
-// Taken by the component when a test ends: a connection can only be replaced.
-FakeAdo& lastConnection() {
-  static FakeAdo& connection = *new FakeAdo;
-  return connection;
-}
-
 Variant truth(bool value) {
   Variant variant;
   variant.vt = VT_BOOL;
@@ -39,8 +33,6 @@ ServerTest::ServerTest() {
 
 ServerTest::~ServerTest() {
   closeWindows();
-  manager->putref_NTConnection(nullptr);
-  manager->putref_DBConnection(lastConnection().connection.get());
 }
 
 void ServerTest::offerServices() {

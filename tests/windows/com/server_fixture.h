@@ -15,7 +15,7 @@ namespace pelorin::test {
 class ServerTest : public ::testing::Test {
  protected:
   ServerTest();
-  // Closes the component's windows and takes the references back that the component can give back.
+  // Closes the component's windows; the last object then lets go of what it was given.
   ~ServerTest() override;
 
   static ComPtr<_TAManager> create();

@@ -2,15 +2,19 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "Pelorin.h"
 #include "tests/windows/com/component_dll.h"
 #include "win32/com/bstr.h"
 #include "win32/com/com_error.h"
+#include "win32/text/utf16.h"
 
 namespace pelorin::test {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::StartsWith;
 
 struct TypeLibrary : ::testing::Test {
   ComPtr<ITypeLib> library;
@@ -87,19 +91,82 @@ TEST_F(TypeLibrary, listsTheMembersInTheirOrder) {
                                    FunctionEntry{L"UnInstall", INVOKE_FUNC, 11, 17}));
 }
 
-TEST_F(TypeLibrary, namesTheArgumentsOfOnEvent) {
-  const auto info = type(IID__TAManager);
-  BSTR names[9]{};
+std::string nameOfType(const TYPEDESC& type) {
+  switch (type.vt) {
+    case VT_PTR:
+      return nameOfType(*type.lptdesc) + "*";
+    case VT_SAFEARRAY:
+      return "array of " + nameOfType(*type.lptdesc);
+    case VT_I4:
+      return "I4";
+    case VT_BSTR:
+      return "BSTR";
+    case VT_DATE:
+      return "DATE";
+    case VT_BOOL:
+      return "BOOL";
+    case VT_VARIANT:
+      return "VARIANT";
+    case VT_DISPATCH:
+      return "DISPATCH";
+    default:
+      return std::to_string(type.vt);
+  }
+}
+
+// "[in] BSTR strValue"
+std::string argumentText(const ELEMDESC& argument, const std::wstring& name) {
+  const USHORT flags = argument.paramdesc.wParamFlags;
+  std::string text = (flags & PARAMFLAG_FIN) != 0 ? "[in] " : "[out] ";
+  if ((flags & PARAMFLAG_FRETVAL) != 0) text += "[retval] ";
+  return text + nameOfType(argument.tdesc) + " " + toUtf8(name);
+}
+
+// Names of a member and its arguments.
+std::vector<std::wstring> namesOf(ITypeInfo* info, MEMBERID member) {
+  std::array<BSTR, 16> names{};
   UINT count = 0;
-  check(info->GetNames(8, names, 9, &count));
+  check(info->GetNames(member, names.data(), static_cast<UINT>(names.size()), &count));
   std::vector<std::wstring> texts;
   for (UINT i = 0; i < count; ++i) {
     texts.emplace_back(viewOf(names[i]));
     SysFreeString(names[i]);
   }
-  EXPECT_THAT(texts,
-              ElementsAre(L"OnEvent", L"MessageID", L"MessageType", L"EngineName", L"DateTimeDT",
-                          L"DateTimePC", L"Address", L"MessageDescription", L"MessageValues"));
+  return texts;
+}
+
+std::vector<std::string> argumentsOf(ITypeInfo* info, UINT index) {
+  FUNCDESC* function = nullptr;
+  check(info->GetFuncDesc(index, &function));
+  std::vector<std::wstring> names = namesOf(info, function->memid);
+  names.resize(static_cast<std::size_t>(function->cParams) + 1);
+  std::vector<std::string> arguments;
+  for (SHORT i = 0; i < function->cParams; ++i) {
+    const auto place = static_cast<std::size_t>(i);
+    arguments.push_back(argumentText(function->lprgelemdescParam[i], names[place + 1]));
+  }
+  info->ReleaseFuncDesc(function);
+  return arguments;
+}
+
+TEST_F(TypeLibrary, givesEveryArgumentItsNameTypeAndDirection) {
+  const auto table = tableOf(type(IID__TAManager));
+  const auto arguments = [&](UINT member) { return argumentsOf(table.get(), member); };
+  EXPECT_THAT(arguments(0), ElementsAre("[out] [retval] BOOL* result"));
+  EXPECT_THAT(arguments(1), ElementsAre());
+  EXPECT_THAT(arguments(2), ElementsAre());
+  for (const UINT property : {3U, 4U, 5U}) {
+    // Automation gives no names of what a property is set to.
+    EXPECT_THAT(arguments(property), ElementsAre(StartsWith("[in] DISPATCH ")));
+  }
+  EXPECT_THAT(arguments(6), ElementsAre());
+  EXPECT_THAT(arguments(7),
+              ElementsAre("[in] I4 MessageID", "[in] I4 MessageType", "[in] BSTR EngineName",
+                          "[in] DATE DateTimeDT", "[in] DATE DateTimePC", "[in] BSTR Address",
+                          "[in] BSTR MessageDescription", "[in] array of VARIANT MessageValues"));
+  EXPECT_THAT(arguments(8), ElementsAre("[in] BSTR strValue"));
+  EXPECT_THAT(arguments(9), ElementsAre("[in] BSTR SourcePath"));
+  EXPECT_THAT(arguments(10), ElementsAre());
 }
 
 WORD flagsOf(ITypeInfo* info) {
@@ -131,7 +198,7 @@ TEST_F(TypeLibrary, hasOneClassWithThatInterface) {
 
 struct FieldEntry {
   std::wstring name;
-  VARTYPE type;
+  std::string type;
   ULONG offset;
   bool operator==(const FieldEntry&) const = default;
 };
@@ -154,20 +221,21 @@ TEST_F(TypeLibrary, describesTheHostsMessageRecord) {
   for (UINT i = 0; i < count; ++i) {
     VARDESC* field = nullptr;
     check(info->GetVarDesc(i, &field));
-    fields.push_back({nameOf(info.get(), field->memid), field->elemdescVar.tdesc.vt, field->oInst});
+    fields.push_back(
+        {nameOf(info.get(), field->memid), nameOfType(field->elemdescVar.tdesc), field->oInst});
     info->ReleaseVarDesc(field);
   }
-  EXPECT_THAT(
-      fields,
-      ElementsAre(
-          FieldEntry{L"MessageID", VT_I4, offsetof(MorvatMessage, MessageID)},
-          FieldEntry{L"MessageType", VT_I4, offsetof(MorvatMessage, MessageType)},
-          FieldEntry{L"EngineName", VT_BSTR, offsetof(MorvatMessage, EngineName)},
-          FieldEntry{L"DateTimeDT", VT_DATE, offsetof(MorvatMessage, DateTimeDT)},
-          FieldEntry{L"DateTimePC", VT_DATE, offsetof(MorvatMessage, DateTimePC)},
-          FieldEntry{L"Address", VT_BSTR, offsetof(MorvatMessage, Address)},
-          FieldEntry{L"MessageDescription", VT_BSTR, offsetof(MorvatMessage, MessageDescription)},
-          FieldEntry{L"MessageValues", VT_SAFEARRAY, offsetof(MorvatMessage, MessageValues)}));
+  EXPECT_THAT(fields,
+              ElementsAre(FieldEntry{L"MessageID", "I4", offsetof(MorvatMessage, MessageID)},
+                          FieldEntry{L"MessageType", "I4", offsetof(MorvatMessage, MessageType)},
+                          FieldEntry{L"EngineName", "BSTR", offsetof(MorvatMessage, EngineName)},
+                          FieldEntry{L"DateTimeDT", "DATE", offsetof(MorvatMessage, DateTimeDT)},
+                          FieldEntry{L"DateTimePC", "DATE", offsetof(MorvatMessage, DateTimePC)},
+                          FieldEntry{L"Address", "BSTR", offsetof(MorvatMessage, Address)},
+                          FieldEntry{L"MessageDescription", "BSTR",
+                                     offsetof(MorvatMessage, MessageDescription)},
+                          FieldEntry{L"MessageValues", "array of VARIANT",
+                                     offsetof(MorvatMessage, MessageValues)}));
 }
 
 }  // namespace

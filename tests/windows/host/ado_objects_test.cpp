@@ -29,6 +29,36 @@ std::string textOf(const Variant& variant) {
   return toText(valueOf(variant));
 }
 
+// 150 rows, then the server is gone: inside the second block that is fetched.
+class BrokenOffResults : public host::ResultCursor {
+ public:
+  const std::vector<std::string>& columns() const override { return columns_; }
+  bool nextResult() override { return false; }
+  std::size_t fetch(std::size_t rows, std::vector<Value>& cells) override {
+    for (std::size_t fetched = 0; fetched < rows; ++fetched) {
+      if (given_ == 150) throw host::DatabaseError(-2147467259, {{"link failure", 0, "08S01"}});
+      cells.emplace_back(std::int64_t{given_++});
+    }
+    return rows;
+  }
+
+ private:
+  std::vector<std::string> columns_{"ID"};
+  int given_ = 0;
+};
+
+class BrokenOffDatabase : public host::ResultConnection {
+ public:
+  std::unique_ptr<host::ResultCursor> openResults(std::string_view) override {
+    return std::make_unique<BrokenOffResults>();
+  }
+  std::vector<host::ServerMessage> messages() const override { return {}; }
+
+ protected:
+  void run(std::string_view) override {}
+  void call(ProcedureCall&) override {}
+};
+
 class AdoObjects : public testing::Test {
  protected:
   ComPtr<IDispatch> connection() const {
@@ -191,6 +221,24 @@ TEST_F(AdapterOverAdoObjects, TheRegisteredClassServesThisApartmentUntilItIsRevo
                              command.putVoid()),
             S_OK);
   EXPECT_TRUE(LateBound(command).knows(L"CreateParameter"));
+}
+
+TEST(RowsBeforeAnError, ArriveAndTheErrorTellsOfTheLostConnection) {
+  AdoConnection connection{ComPtr<IDispatch>(
+      host::makeObject<AdoConnectionObject>(noConnection, std::make_shared<BrokenOffDatabase>(), "")
+          .get())};
+  RecordSet rows = connection.open("select ID from Things");
+  for (int row = 0; row < 150; ++row) {
+    ASSERT_TRUE(rows.next());
+    EXPECT_EQ(rows.int32("ID"), row);
+  }
+  try {
+    rows.next();
+    FAIL();
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.description(), "link failure");
+    EXPECT_TRUE(error.connectionLost());
+  }
 }
 
 }  // namespace

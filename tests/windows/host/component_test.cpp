@@ -45,8 +45,10 @@ host::Options over(const std::string& file) {
 
 TEST(OpeningADatabase, AFileThatIsNoneIsNamedAndStaysAsItWas) {
   const TemporaryFile file("letter.site", "Dear Sir or Madam, this is no database at all.");
-  const std::string text = complaint(
-      [&] { host::DataSource::open(over(file.path()), std::make_shared<host::StatementLog>()); });
+  const std::string text = complaint([&] {
+    host::DataSource::open(over(file.path()), std::make_shared<host::StatementLog>(),
+                           host::connectOdbc);
+  });
   EXPECT_NE(text, "none");
   EXPECT_EQ(file.content(), "Dear Sir or Madam, this is no database at all.");
 }
@@ -54,14 +56,14 @@ TEST(OpeningADatabase, AFileThatIsNoneIsNamedAndStaysAsItWas) {
 TEST(OpeningADatabase, AMissingFileIsMadeAndFoundAgainWithItsAuditLog) {
   const TemporaryFile file("fresh.site");
   {
-    const host::DataSource made =
-        host::DataSource::open(over(file.path()), std::make_shared<host::StatementLog>());
+    const host::DataSource made = host::DataSource::open(
+        over(file.path()), std::make_shared<host::StatementLog>(), host::connectOdbc);
     AuditRecord record;
     record.operation = "Add";
     made.audit().add(record);
   }
-  const host::DataSource again =
-      host::DataSource::open(over(file.path()), std::make_shared<host::StatementLog>());
+  const host::DataSource again = host::DataSource::open(
+      over(file.path()), std::make_shared<host::StatementLog>(), host::connectOdbc);
   ASSERT_EQ(again.audit().records().size(), 1U);
   EXPECT_EQ(again.audit().records()[0].operation, "Add");
 }
@@ -70,9 +72,11 @@ TEST(OpeningADatabase, AnOdbcSourceThatIsNotThereIsAClearError) {
   host::Options options;
   options.source = host::Source::OdbcDataSource;
   options.connectionString = "DSN=pelorin-has-no-such-source";
-  EXPECT_NE(
-      complaint([&] { host::DataSource::open(options, std::make_shared<host::StatementLog>()); }),
-      "none");
+  EXPECT_NE(complaint([&] {
+              host::DataSource::open(options, std::make_shared<host::StatementLog>(),
+                                     host::connectOdbc);
+            }),
+            "none");
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "test_paths.h"
+
 namespace pelorin::test {
 namespace {
 
@@ -52,6 +54,14 @@ TEST(HostProgram, AMissingComponentIsSaidByThePlayedRequest) {
   const Ended ended = Program("--play --component Z:\\nowhere\\Pelorin.dll").waitForEnd();
   EXPECT_EQ(ended.code, 1U);
   EXPECT_THAT(ended.output, HasSubstr("Z:\\nowhere\\Pelorin.dll"));
+}
+
+TEST(HostProgram, APlayedRequestOverAServerWithoutTheDemonstrationSiteSaysSo) {
+  if (sizeof(void*) == 4) GTEST_SKIP() << "no ODBC here";
+  const Ended ended =
+      Program("--play --odbc \"Driver=" PELORIN_SQLITE_ODBC ";Database=:memory:\"").waitForEnd();
+  EXPECT_EQ(ended.code, 1U);
+  EXPECT_THAT(ended.output, HasSubstr("FAILED: The database does not hold the demonstration site"));
 }
 
 TEST(HostProgram, AMissingComponentIsShownInABoxAndTheHostStaysUp) {

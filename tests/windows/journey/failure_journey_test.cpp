@@ -1,6 +1,5 @@
 // What the operator is told when something is missing or fails, and what works afterwards.
 #include "host/window/resource.h"
-#include "site/engine.h"
 #include "tests/windows/journey/component_log.h"
 #include "tests/windows/journey/journey.h"
 
@@ -19,10 +18,6 @@ using testing::StartsWith;
 
 class FailureJourney : public Journey {
  protected:
-  // Behind the back of everybody, as another program would.
-  void changeSite(const std::string& sql) {
-    site::Engine::open(host.file(), site::Engine::Mode::Open)->script(sql);
-  }
   void prepareNewTrigger() {
     editor = openEditor();
     checkEvents(editor, {"00001", "00002"});

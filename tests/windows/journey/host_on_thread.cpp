@@ -25,16 +25,17 @@ std::wstring freshFile() {
   return file;
 }
 
-host::Options options(const std::string& file) {
+}  // namespace
+
+host::Options HostOnThread::options() const {
   host::Options chosen;
-  chosen.database = file;
+  chosen.database = file_;
   chosen.component = toUtf8(environment(L"PELORIN_DIST") + L"\\Pelorin.dll");
   return chosen;
 }
 
-}  // namespace
-
-HostOnThread::HostOnThread() : file_(toUtf8(freshFile())) {
+HostOnThread::HostOnThread(host::OpenConnection odbc)
+    : odbc_(std::move(odbc)), file_(toUtf8(freshFile())) {
   std::promise<void> ready;
   std::future<void> isReady = ready.get_future();
   thread_ = std::thread([this, &ready] { live(ready); });
@@ -56,7 +57,13 @@ void HostOnThread::live(std::promise<void>& ready) {
   const INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
   InitCommonControlsEx(&wanted);
   try {
-    window_ = std::make_unique<host::MainWindow>(options(file_));
+    host::Options chosen = options();
+    if (odbc_) {
+      chosen.source = host::Source::OdbcDataSource;
+      chosen.connectionString = "DSN=test";
+    }
+    window_ = std::make_unique<host::MainWindow>(
+        chosen, odbc_ ? odbc_ : host::OpenConnection(host::connectOdbc));
     handle_ = window_->handle();
     ui_.emplace();
     ShowWindow(handle_, SW_SHOWNORMAL);

@@ -1,5 +1,5 @@
-// The reference host with its windows on a thread of its own, over a fresh demonstration site and
-// the built DLL; the test's thread plays the operator.
+// The reference host with its windows on a thread of its own, over a fresh demonstration site (or
+// what a test puts in ODBC's place) and the built DLL; the test's thread plays the operator.
 #pragma once
 
 #include <exception>
@@ -8,6 +8,7 @@
 #include <string>
 #include <thread>
 
+#include "host/core/options.h"
 #include "host/driver/ui_calls.h"
 #include "host/window/main_window.h"
 
@@ -15,7 +16,7 @@ namespace pelorin::test {
 
 class HostOnThread {
  public:
-  HostOnThread();
+  explicit HostOnThread(host::OpenConnection odbc = {});
   HostOnThread(const HostOnThread&) = delete;
   HostOnThread& operator=(const HostOnThread&) = delete;
   ~HostOnThread();
@@ -24,10 +25,13 @@ class HostOnThread {
   host::HostSession& session() const { return window_->session(); }
   HWND window() const { return handle_; }
   const std::string& file() const { return file_; }
+  // For another host over the same site.
+  host::Options options() const;
 
  private:
   void live(std::promise<void>& ready);
 
+  host::OpenConnection odbc_;
   std::string file_;
   std::optional<host::UiCalls> ui_;
   std::unique_ptr<host::MainWindow> window_;

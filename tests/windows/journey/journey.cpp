@@ -1,6 +1,7 @@
 #include "tests/windows/journey/journey.h"
 
 #include "host/window/resource.h"
+#include "site/engine.h"
 #include "site/site_database.h"
 
 namespace pelorin::test {
@@ -92,6 +93,10 @@ std::vector<std::string> Journey::audit() {
 std::string Journey::stored(const std::string& sql, const std::string& column) {
   RecordSet rows = SiteDatabase::open(host.file()).connect()->open(sql);
   return rows.next() ? rows.text(column) : std::string();
+}
+
+void Journey::changeSite(const std::string& sql) {
+  site::Engine::open(host.file(), site::Engine::Mode::Open)->script(sql);
 }
 
 }  // namespace pelorin::test

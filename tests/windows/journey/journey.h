@@ -40,6 +40,9 @@ class Journey : public testing::Test {
   // The values of a row, read from the database file; empty when there is none.
   std::string stored(const std::string& sql, const std::string& column);
 
+  // Behind the back of everybody, as another program would.
+  void changeSite(const std::string& sql);
+
   HostOnThread host;
 };
 

@@ -91,7 +91,7 @@ class KeyboardJourney : public Journey {
 TEST_F(KeyboardJourney, TheTypicalRequestNeedsNoMouse) {
   host::Stage stage(host.ui(), host.session(), host.window(), testing::TempDir(), "-keyboard",
                     [](const std::string&) {});
-  const host::Standing before = host::standing(stage, host.file());
+  const host::Standing before = host::standing(stage);
   const HWND editor = openAddingEditor();
   host::SummaryRows rows{.before = host::rowsOf(grid()), .after = {}};
   tickFirstEvents(editor);
@@ -103,7 +103,7 @@ TEST_F(KeyboardJourney, TheTypicalRequestNeedsNoMouse) {
   press(VK_RETURN);
   host::waitUntilClosed(editor);
   rows.after = host::rowsOf(grid());
-  EXPECT_THAT(host::tellOutcome(stage, before, rows, host.file()), testing::IsEmpty());
+  EXPECT_THAT(host::tellOutcome(stage, before, rows), testing::IsEmpty());
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include <commctrl.h>
+
 #include "host/core/resource_texts.h"
 #include "host/window/resource.h"
 #include "tests/windows/journey/journey.h"
@@ -12,13 +14,16 @@ using testing::ElementsAre;
 
 using SummaryJourney = Journey;
 
-TEST_F(SummaryJourney, TheListShowsCctvTriggersFirstUnderItsFiveHeaders) {
+TEST_F(SummaryJourney, TheListShowsCctvTriggersFirstUnderItsSevenHeaders) {
   openSummary();
-  EXPECT_THAT(host::headersOf(grid()),
-              ElementsAre("Trigger", "Location", "Action", "Type", "Device"));
+  EXPECT_THAT(host::headersOf(grid()), ElementsAre("Trigger", "Location", "Action", "Type",
+                                                   "Device", "TriggerID", "TriggerEventID"));
   EXPECT_THAT(host::rowsOf(grid()).at(0),
               ElementsAre("00001 - Door broken open!", "001.01.001.D01", "Call camera to monitor",
-                          "CCTV", "Main building switcher"));
+                          "CCTV", "Main building switcher", "1", "1"));
+  for (const WPARAM column : {WPARAM{5}, WPARAM{6}}) {
+    EXPECT_EQ(SendMessageW(grid(), LVM_GETCOLUMNWIDTH, column, 0), 0);
+  }
 }
 
 TEST_F(SummaryJourney, DeleteByMouseRemovesTheRowTheTriggerAndIsLogged) {

@@ -1,28 +1,22 @@
-// The main program of tests that open windows. Wine's emulation of 32-bit Windows gives programs no
-// device contexts: combo boxes cannot be made there, and edit boxes with text end the program.
-// Where that is so the program says it and ends with the code for "skipped".
+// The main program of tests that open windows. Where the system has no device contexts the program
+// says it and ends with the code for "skipped".
 #include <gmock/gmock.h>
 #include <ole2.h>
 #include <windows.h>
 
 #include <iostream>
 
+#include "tests/windows/support/device_contexts.h"
+
 namespace {
 
 constexpr int skipped = 77;
-
-bool deviceContextsWork() {
-  const HDC screen = GetDC(nullptr);
-  const HGDIOBJ before = SelectObject(screen, GetStockObject(DEFAULT_GUI_FONT));
-  ReleaseDC(nullptr, screen);
-  return before != nullptr;
-}
 
 }  // namespace
 
 int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);
-  if (!deviceContextsWork()) {
+  if (!pelorin::test::deviceContextsWork()) {
     std::cout << "this system gives the program no device contexts\n";
     return skipped;
   }

@@ -3,6 +3,8 @@
 
 #include "tests/windows/views/desk.h"
 #include "tests/windows/views/sample_form.h"
+#include "win32/views/handles.h"
+#include "win32/views/shortened_text.h"
 
 namespace pelorin::test {
 
@@ -14,6 +16,20 @@ class Values : public Desk {
   HWND control(const std::string& name) const { return find(form, name); }
   LRESULT ask(const std::string& name, UINT message, WPARAM w = 0, LPARAM l = 0) const {
     return SendMessageW(control(name), message, w, l);
+  }
+
+  // As they are on the screen.
+  std::vector<COLORREF> pixelsOf(const std::string& name) const {
+    const HWND window = control(name);
+    UpdateWindow(window);
+    RECT area{};
+    GetClientRect(window, &area);
+    const WindowDc dc(window);
+    std::vector<COLORREF> pixels;
+    for (int y = 0; y < area.bottom; ++y) {
+      for (int x = 0; x < area.right; ++x) pixels.push_back(GetPixel(dc.get(), x, y));
+    }
+    return pixels;
   }
 
   SampleForm form;
@@ -80,6 +96,65 @@ TEST_F(Values, ALabelThatGrowsTakesTheFreeRoomBesideIt) {
   EXPECT_LT(after.right, neighbour.left);
 }
 
+TEST_F(Values, ALabelWithDataGrowsIntoTheFreeRoomAsWell) {
+  form.lblStatus.setPlace({150, 5700, 900, 195});
+  pump();
+  RECT before{};
+  GetWindowRect(control("lblStatus"), &before);
+  form.lblStatus.setText("001.01.001.D04 - Post room added");
+  pump();
+  RECT after{};
+  RECT neighbour{};
+  GetWindowRect(control("lblStatus"), &after);
+  GetWindowRect(control("cmdOK"), &neighbour);
+  EXPECT_GT(after.right, before.right);
+  EXPECT_LT(after.right, neighbour.left);
+}
+
+TEST_F(Values, ALabelWithDataThatIsTooLongShowsItsEndAndKeepsItsWholeText) {
+  const std::string text = "001.01.001.D04 - " + std::string(300, 'n');
+  form.lblStatus.setText(text + " added");
+  pump();
+  const std::vector<COLORREF> added = pixelsOf("lblStatus");
+  EXPECT_EQ(textOf(control("lblStatus")).size(), text.size() + 6);
+  form.lblStatus.setText(text + " nnnnn");
+  pump();
+  EXPECT_NE(pixelsOf("lblStatus"), added);
+}
+
+TEST(ShortenedText, LeavesOutTheMiddleAndOnlyAsMuchAsItMust) {
+  const auto oneEach = [](const std::wstring& text) { return static_cast<int>(text.size()); };
+  EXPECT_EQ(shortenedInMiddle(L"abcdefgh", 8, oneEach), L"abcdefgh");
+  EXPECT_EQ(shortenedInMiddle(L"abcdefgh", 7, oneEach),
+            L"abc\x2026"
+            L"fgh");
+  EXPECT_EQ(shortenedInMiddle(L"abcdefgh", 4, oneEach),
+            L"ab\x2026"
+            L"h");
+  EXPECT_EQ(shortenedInMiddle(L"abcdefgh", 0, oneEach), L"\x2026");
+  EXPECT_EQ(shortenedInMiddle(L"", 0, oneEach), L"");
+}
+
+TEST(ShortenedText, CutsNoCharacterInTwo) {
+  const auto oneEach = [](const std::wstring& text) { return static_cast<int>(text.size()); };
+  const std::wstring faces = L"\xD83D\xDE00\xD83D\xDE00";
+  EXPECT_EQ(shortenedInMiddle(faces, 3, oneEach), L"\xD83D\xDE00\x2026");
+  EXPECT_EQ(shortenedInMiddle(faces, 2, oneEach), L"\x2026");
+}
+
+TEST_F(Values, ABoxThatTheClickBringsUpGetsTheKeyboard) {
+  form.txtName.setVisible(false);
+  pump();
+  form.cmdHelp.onClick = [&] {
+    form.txtName.setVisible(true);
+    form.userFocus(&form.txtName);
+  };
+  clickMiddle(control("cmdHelp"));
+  EXPECT_EQ(focusName(), "txtName");
+  type(L"x");
+  EXPECT_EQ(form.txtName.text(), "x");
+}
+
 TEST_F(Values, AClickPressesTheButtonOnceAndFocusesIt) {
   clickMiddle(control("cmdHelp"));
   EXPECT_EQ(form.count("click cmdHelp"), 1);
@@ -141,6 +216,18 @@ TEST_F(Values, ACharacterOfTwoHalvesIsJudgedAsOne) {
   type(L"\xD83D\xDE00");
   EXPECT_EQ(keys, std::vector<char32_t>{0x1F600});
   EXPECT_EQ(form.txtInside.text(), "\xF0\x9F\x98\x80");
+}
+
+TEST_F(Values, ARefusedCharacterOfTwoHalvesLeavesNothingBehind) {
+  form.txtInside.onKeyPress = [](char32_t& key) {
+    if (key < '0' || key > '9') key = 0;
+  };
+  clickMiddle(control("txtInside"));
+  type(
+      L"1\xD83D\xDE00"
+      L"2");
+  EXPECT_EQ(form.txtInside.text(), "12");
+  EXPECT_EQ(textOf(control("txtInside")), L"12");
 }
 
 TEST_F(Values, TextSetByTheProgramIsNoActOfTheOperator) {

@@ -1,5 +1,6 @@
 // Windows as a whole: opening, owners, closing, boxes, resolution, size, and what is left behind.
 #include <algorithm>
+#include <limits>
 
 #include "tests/windows/views/desk.h"
 #include "tests/windows/views/sample_form.h"
@@ -33,6 +34,12 @@ class StretchForm : public SampleForm {
     SampleForm::Form_Resize();
     cmdHelp.setPlace({client().width - 1200, client().height - 500, 1100, 375});
   }
+};
+
+// Gives its owner back before it goes, as the picker does.
+class GivingBackForm : public SampleForm {
+ public:
+  void Form_Unload() override { screen()->setOwner(*this, 0); }
 };
 
 class LoadingForm : public SampleForm {
@@ -158,6 +165,55 @@ TEST_F(Windows, WhenTheHostDestroysTheOwnerEveryFormIsUnloadedOnceInnermostFirst
   EXPECT_FALSE(summary.isOpen());
 }
 
+TEST_F(Windows, TheOwnerIsActiveAfterwardsEvenWhenTheFormGaveItBack) {
+  SampleForm summary;
+  SampleForm editor;
+  GivingBackForm picker;
+  open(summary);
+  screen().show(editor, screen().windowOf(summary));
+  screen().show(picker);
+  screen().setOwner(picker, screen().windowOf(editor));
+  ASSERT_TRUE(pumpUntil([&] { return GetActiveWindow() == windowOf(picker); }));
+  // The order of windows speaks for another one.
+  SetWindowPos(windowOf(summary), windowOf(picker), 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  picker.unload();
+  pump();
+  EXPECT_EQ(GetActiveWindow(), windowOf(editor));
+  editor.unload();
+  EXPECT_EQ(GetActiveWindow(), windowOf(summary));
+  summary.unload();
+  EXPECT_EQ(GetActiveWindow(), host());
+}
+
+TEST_F(Windows, AWindowThatIsNotActiveGoesWithoutActivatingItsOwner) {
+  SampleForm summary;
+  SampleForm editor;
+  open(summary);
+  screen().show(editor, screen().windowOf(summary));
+  pump();
+  SetActiveWindow(host());
+  pump();
+  editor.unload();
+  pump();
+  EXPECT_EQ(GetActiveWindow(), host());
+}
+
+TEST_F(Windows, SizesBeyondAnyScreenStayOnTheirSide) {
+  constexpr int largest = std::numeric_limits<int>::max();
+  StretchForm form;
+  form.cmdHelp.setPlace({largest, largest, largest, largest});
+  form.lblName.setPlace({150, 240, largest, 195});
+  open(form);
+  RECT help{};
+  GetWindowRect(find(form, "cmdHelp"), &help);
+  EXPECT_GT(help.left, 0);
+  EXPECT_GE(help.right, help.left);
+  RECT label{};
+  GetWindowRect(find(form, "lblName"), &label);
+  EXPECT_GT(label.right, label.left);
+}
+
 TEST_F(Windows, UnloadingAnOwnerUnloadsWhatItOwnsFirst) {
   SampleForm summary;
   SampleForm editor;
@@ -233,18 +289,40 @@ TEST_F(Windows, TheHourglassIsAnsweredWhileItIsSet) {
   EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
 }
 
-TEST_F(Windows, AFrameLaidOverAListHidesIt) {
+TEST_F(Windows, AListBehindAFrameIsShownOutOfReach) {
   SampleForm form;
   open(form);
-  Place over = form.lvwEvents.place();
+  const HWND list = find(form, "lvwEvents");
+  const Place over = form.lvwEvents.place();
   form.fraGroup.setPlace({over.left, over.top, over.width, over.height + 200});
+  form.lvwEvents.setCovered(true);
   pump();
-  EXPECT_FALSE(isShown(find(form, "lvwEvents")));
+  EXPECT_TRUE(isShown(list));
+  EXPECT_FALSE(IsWindowEnabled(list));
+  RECT rect{};
+  GetWindowRect(list, &rect);
+  POINT middle{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+  ScreenToClient(GetParent(list), &middle);
+  EXPECT_EQ(ChildWindowFromPointEx(GetParent(list), middle, CWP_SKIPINVISIBLE),
+            find(form, "fraGroup"))
+      << "the frame is in front";
   EXPECT_TRUE(isShown(find(form, "txtInside")));
   form.fraGroup.setVisible(false);
+  form.lvwEvents.setCovered(false);
   pump();
-  EXPECT_TRUE(isShown(find(form, "lvwEvents")));
+  EXPECT_TRUE(IsWindowEnabled(list));
   EXPECT_FALSE(isShown(find(form, "txtInside")));
+}
+
+TEST_F(Windows, TheFocusLeavesAListThatIsCovered) {
+  SampleForm form;
+  open(form);
+  SetFocus(find(form, "lvwEvents"));
+  pump();
+  form.lvwEvents.setCovered(true);
+  pump();
+  EXPECT_NE(GetFocus(), find(form, "lvwEvents"));
+  EXPECT_NE(GetFocus(), nullptr);
 }
 
 TEST_F(Windows, NothingIsLeftAfterFiftyOpenings) {

@@ -1,9 +1,9 @@
-// Keeps re-entrant handlers out while a control is filled.
+// Keeps out what comes back while something is under way.
 #pragma once
 
 namespace pelorin {
 
-// Sets a flag while it lives, also when an error ends the filling.
+// Sets a flag while it lives, also when an error ends what is under way.
 class FlagWhile {
  public:
   explicit FlagWhile(bool& flag) noexcept : flag_(flag) { flag = true; }

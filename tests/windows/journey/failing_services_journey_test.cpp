@@ -1,0 +1,223 @@
+// One call that the host fails on the way of each main journey: the operator is told, the journey
+// goes on or stays where it is, and the database holds nothing that was not asked for.
+#include <array>
+#include <optional>
+
+#include "host/core/resource_texts.h"
+#include "host/session/component.h"
+#include "host/session/window_object.h"
+#include "host/window/resource.h"
+#include "tests/windows/journey/component_log.h"
+#include "tests/windows/journey/journey.h"
+#include "tests/windows/journey/services_between.h"
+#include "win32/text/utf16.h"
+
+namespace pelorin::test {
+namespace {
+
+using host::clickButton;
+using host::control;
+using host::waitFor;
+using testing::AllOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+std::string builtComponent() {
+  std::array<wchar_t, 1024> folder{};
+  GetEnvironmentVariableW(L"PELORIN_DIST", folder.data(), static_cast<DWORD>(folder.size()));
+  return toUtf8(folder.data()) + "\\Pelorin.dll";
+}
+
+class FailingServicesJourney : public Journey {
+ protected:
+  // All objects of the component's class share what any of them is given.
+  FailingServicesJourney() {
+    host.ui().run([&] {
+      host.session().loadComponent();
+      auto state = std::make_shared<host::HostState>();
+      state->audit = &host.session().data().audit();
+      services = ServicesBetween::make(
+          ComPtr<IDispatch>(host::makeObject<host::ServicesObject>(state).get()));
+      component.emplace(host::Component::load(builtComponent()));
+      component->connect(host::makeObject<host::WindowObject>(host.window()).get(), services.get(),
+                         host.session().data().ado());
+    });
+  }
+  ~FailingServicesJourney() override {
+    host.ui().run([&] {
+      component.reset();
+      services = {};
+    });
+  }
+
+  void failOnce(const wchar_t* member, int which = 1) {
+    host.ui().run([&] { services->failOnce(member, which); });
+  }
+  // One box, which is also the one line in the log; then the form is there to be operated.
+  HWND expectReport(const std::string& procedure, const std::string& form) {
+    const host::OpenBox box = host::answerBox();
+    EXPECT_THAT(box.text, AllOf(StartsWith(procedure + ": Line: "), HasSubstr("The host is busy")));
+    const HWND window = host::waitForForm(form);
+    waitFor(form + " to be operated", [&] { return IsWindowEnabled(window); });
+    EXPECT_FALSE(host::findBox());
+    EXPECT_THAT(log.newLines(), testing::ElementsAre(EndsWith(": " + box.text)));
+    return window;
+  }
+  void pressTriggerActions() { clickButton(GetDlgItem(host.window(), IDM_TRIGGER_ACTIONS)); }
+  // As openEditorOn, for an editor that has a report to show first.
+  void pressEditOn(const std::string& triggerText, const std::string& location) {
+    const HWND summary = openSummary();
+    host::selectRow(grid(), summaryRow(triggerText, location));
+    clickButton(control(summary, "cmdAddEdit(1)"));
+  }
+  void prepareTrigger(HWND editor) {
+    checkEvents(editor, {"00003", "00004"});
+    addDoors(editor, {"Post room"});
+  }
+  std::string cctv(int id, const char* column) {
+    return stored("select * from CCTV_TriggerAction where TA_ID = " + std::to_string(id), column);
+  }
+
+  ComponentLog log;
+  ComPtr<ServicesBetween> services;
+  std::optional<host::Component> component;
+};
+
+constexpr int firstAdded = 9;
+
+TEST_F(FailingServicesJourney, TheRightToUseIsNotTakenForGranted) {
+  failOnce(L"Security");
+  pressTriggerActions();
+  const std::string report = host::answerBox().text;
+  EXPECT_THAT(report, AllOf(StartsWith("Module1.MyPermissionGranted: Line: "),
+                            HasSubstr("The host is busy")));
+  EXPECT_EQ(host::answerBox().text, host::resourceText(3575));
+  EXPECT_EQ(host::findForm("frmTASummary"), nullptr);
+  EXPECT_THAT(statements(), IsEmpty());
+  EXPECT_NE(openSummary(), nullptr);
+}
+
+TEST_F(FailingServicesJourney, TheSummaryShowsEveryTriggerWithoutOneDescription) {
+  failOnce(L"EnableCustomize");
+  pressTriggerActions();
+  const HWND summary = expectReport("Module1.GetEventDescription", "frmTASummary");
+  const int rows = host::rowCount(grid());
+  clickButton(control(summary, "cmdClose"));
+  host::waitUntilClosed(summary);
+  openSummary();
+  EXPECT_EQ(host::rowCount(grid()), rows);
+  EXPECT_GE(summaryRow("00001 - Door broken open!", "001.01.001.D01"), 0);
+}
+
+TEST_F(FailingServicesJourney, TheSummaryShowsEveryTriggerWithoutOneActionName) {
+  failOnce(L"GetResourceString");
+  pressTriggerActions();
+  expectReport("MPublic: GRS", "frmTASummary");
+  EXPECT_EQ(host::cell(grid(), 0, 0), "00001 - Door broken open!");
+  EXPECT_EQ(host::cell(grid(), 0, 2), "");
+}
+
+TEST_F(FailingServicesJourney, ADeletedTriggerThatCannotBeLoggedIsGoneAndReported) {
+  const HWND summary = openSummary();
+  const int before = host::rowCount(grid());
+  host::selectRow(grid(), summaryRow("00001 - Door broken open!", "001.01.007.D01"));
+  failOnce(L"LogEvent");
+  clickButton(control(summary, "cmdDelete"));
+  expectReport("frmTASummary.cmdDelete_Click", "frmTASummary");
+  EXPECT_EQ(host::rowCount(grid()), before - 1);
+  EXPECT_EQ(cctv(3, "TA_ID"), "");
+  EXPECT_EQ(cctv(2, "TA_ID"), "2");
+  EXPECT_THAT(audit(), IsEmpty());
+}
+
+TEST_F(FailingServicesJourney, AnAddedTriggerThatCannotBeLoggedEndsTheSaveAndIsThereOnce) {
+  const HWND editor = openEditor();
+  prepareTrigger(editor);
+  failOnce(L"LogEvent");
+  clickButton(control(editor, "cmdOK"));
+  expectReport("frmTriggerAction.InsertCCTVTriggerActionForThisLocation", "frmTriggerAction");
+  EXPECT_EQ(cctv(firstAdded, "T_EventID"), "3");
+  EXPECT_EQ(cctv(firstAdded + 1, "TA_ID"), "");
+  EXPECT_THAT(audit(), IsEmpty());
+}
+
+TEST_F(FailingServicesJourney, TheSecondTriggerThatCannotBeLoggedLeavesTheRecordOfTheFirst) {
+  const HWND editor = openEditor();
+  prepareTrigger(editor);
+  failOnce(L"LogEvent", 2);
+  clickButton(control(editor, "cmdOK"));
+  expectReport("frmTriggerAction.InsertCCTVTriggerActionForThisLocation", "frmTriggerAction");
+  EXPECT_EQ(cctv(firstAdded + 1, "T_EventID"), "4");
+  EXPECT_EQ(cctv(firstAdded + 2, "TA_ID"), "");
+  EXPECT_THAT(audit(), testing::ElementsAre("Add TriggerAction 0 Trigger Event 3 1184"));
+}
+
+TEST_F(FailingServicesJourney, AChangedTriggerThatCannotBeLoggedIsStoredAndTheEditorStays) {
+  const HWND editor = openEditorOn("00002 - Door open too long", "001.01.001.D01");
+  host::chooseTab(control(editor, "SSTab1"), 1);
+  host::chooseText(control(editor, "cmbCCTVMonitors"), "5");
+  failOnce(L"LogEvent");
+  clickButton(control(editor, "cmdOK"));
+  expectReport("frmTriggerAction.SaveCCTVTriggerAction", "frmTriggerAction");
+  EXPECT_EQ(cctv(2, "Monitor"), "5");
+  EXPECT_EQ(cctv(2, "T_EventID"), "2");
+  EXPECT_THAT(audit(), IsEmpty());
+  clickButton(control(editor, "cmdOK"));
+  host::waitUntilClosed(editor);
+  EXPECT_THAT(audit(), testing::ElementsAre("Update TriggerAction 2 Trigger Event 2 1185"));
+}
+
+TEST_F(FailingServicesJourney, WithoutTheOperatorARecordersTriggerIsNotOverwritten) {
+  constexpr const char* action2 = "select * from DVR_TriggerActions (NOLOCK) where DVRActionID = 2";
+  openSummary();
+  failOnce(L"OperatorID");
+  pressEditOn("00040 - Water leak detected", "001.01.007.I01");
+  const HWND editor = expectReport("frmTriggerAction.LoadCommandSetCombo", "frmTriggerAction");
+  clickButton(control(editor, "cmdOK"));
+  EXPECT_EQ(host::answerBox().text, "Cannot save trigger. It could not be read completely.");
+  EXPECT_TRUE(host::isShown(editor));
+  EXPECT_EQ(stored(action2, "CommandSetID"), "3");
+  EXPECT_THAT(audit(), IsEmpty());
+}
+
+TEST_F(FailingServicesJourney, WithoutTheOperatorANewCctvTriggerIsSavedAllTheSame) {
+  const HWND summary = openSummary();
+  failOnce(L"OperatorID");
+  clickButton(control(summary, "cmdAddEdit(0)"));
+  const HWND editor = expectReport("frmTriggerAction.LoadCommandSetCombo", "frmTriggerAction");
+  prepareTrigger(editor);
+  clickButton(control(editor, "cmdOK"));
+  host::waitUntilClosed(editor);
+  EXPECT_EQ(cctv(firstAdded, "T_EventID"), "3");
+  EXPECT_THAT(audit(), SizeIs(2));
+}
+
+TEST_F(FailingServicesJourney, EventsThatCannotBeDescribedAreListedAtTheNextTick) {
+  const HWND editor = openEditor();
+  const HWND filters = control(editor, "lstEventFilters");
+  const HWND events = control(editor, "lvwEvents");
+  failOnce(L"EnableCustomize");
+  host::tickRow(filters, 0);
+  expectReport("Error: LoadEventsByFilterType(): ", "frmTriggerAction");
+  EXPECT_EQ(host::rowCount(events), 0);
+  host::tickRow(filters, 0);
+  host::tickRow(filters, 0);
+  waitFor("events", [&] { return host::rowCount(events) > 0; });
+  EXPECT_EQ(host::cell(events, 0, 2), "Door broken open!");
+}
+
+TEST_F(FailingServicesJourney, ThePickerOpensWithItsDesignCaptions) {
+  const HWND editor = openEditor();
+  failOnce(L"EnableCustomize");
+  clickButton(control(editor, "cmdAddLocation"));
+  const HWND picker = expectReport("FLocation.LoadCustomResources", "FLocation");
+  host::doubleClickNode(control(picker, "tvTree"),
+                        lobbyDoor(control(picker, "tvTree"), "Post room"));
+  waitFor("location", [&] { return host::rowCount(control(editor, "lvwLocation")) == 1; });
+}
+
+}  // namespace
+}  // namespace pelorin::test

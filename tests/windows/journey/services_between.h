@@ -1,0 +1,45 @@
+// Stands between the component and its host's services, and lets one call of them fail.
+#pragma once
+
+#include <string>
+
+#include "host/windows_api.h"
+#include "win32/com/com_ptr.h"
+
+namespace pelorin::test {
+
+class ServicesBetween final : public IDispatch {
+ public:
+  // Released by the last reference to it.
+  static ComPtr<ServicesBetween> make(ComPtr<IDispatch> services);
+  ServicesBetween(const ServicesBetween&) = delete;
+  ServicesBetween& operator=(const ServicesBetween&) = delete;
+
+  // Call number `which` of the member from now on fails, and no other.
+  void failOnce(const wchar_t* member, int which = 1);
+  // Calls of that member since then.
+  int calls() const noexcept { return calls_; }
+
+  STDMETHODIMP QueryInterface(REFIID id, void** object) noexcept override;
+  STDMETHODIMP_(ULONG) AddRef() noexcept override { return ++references_; }
+  STDMETHODIMP_(ULONG) Release() noexcept override;
+  STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override;
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
+  STDMETHODIMP GetIDsOfNames(REFIID interfaceId, LPOLESTR* names, UINT count, LCID locale,
+                             DISPID* ids) noexcept override;
+  STDMETHODIMP Invoke(DISPID id, REFIID interfaceId, LCID locale, WORD flags,
+                      DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
+                      UINT* argument) noexcept override;
+
+ private:
+  explicit ServicesBetween(ComPtr<IDispatch> services) : services_(std::move(services)) {}
+  ~ServicesBetween() = default;
+
+  ComPtr<IDispatch> services_;
+  ULONG references_ = 1;
+  DISPID failing_ = DISPID_UNKNOWN;
+  int which_ = 0;
+  int calls_ = 0;
+};
+
+}  // namespace pelorin::test
