@@ -1,7 +1,6 @@
-#include <commctrl.h>
-
 #include "host/core/resource_texts.h"
 #include "host/window/resource.h"
+#include "host/windows_api.h"
 #include "tests/windows/journey/journey.h"
 
 namespace pelorin::test {

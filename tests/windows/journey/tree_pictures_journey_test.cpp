@@ -1,12 +1,11 @@
 // The picker's tree as the operator sees it: every node with its picture, and the one that it has
 // while it is selected.
-#include <commctrl.h>
-
 #include <filesystem>
 #include <fstream>
 #include <regex>
 
 #include "host/core/resource_texts.h"
+#include "host/windows_api.h"
 #include "tests/windows/journey/journey.h"
 
 namespace pelorin::test {
@@ -59,7 +58,7 @@ int cellsOfTheFile() {
 using TreePicturesJourney = Journey;
 
 TEST_F(TreePicturesJourney, EveryNodeHasThePicturesOfItsKind) {
-  const HWND tree = control(openPicker(openEditor(), "cmdAddLocation"), "tvTree");
+  const HWND tree = host::control(openPicker(openEditor(), "cmdAddLocation"), "tvTree");
   auto* const images = reinterpret_cast<HIMAGELIST>(SendMessageW(tree, TVM_GETIMAGELIST, 0, 0));
   EXPECT_EQ(ImageList_GetImageCount(images), cellsOfTheFile());
   std::vector<std::string> shown;

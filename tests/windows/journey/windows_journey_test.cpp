@@ -1,11 +1,10 @@
 // The three windows together: whose they are, how small they get, what stays usable, and how they
 // end.
-#include <commctrl.h>
-
 #include <optional>
 
 #include "host/core/options.h"
 #include "host/session/host_session.h"
+#include "host/windows_api.h"
 #include "tests/windows/journey/component_log.h"
 #include "tests/windows/journey/journey.h"
 
