@@ -1,6 +1,10 @@
 // What registering leaves in the registry, and what unregistering takes away.
 #include <gtest/gtest.h>
+// windows.h comes first: the other needs it.
+// clang-format off
+#include <windows.h>
 #include <sddl.h>
+// clang-format on
 
 #include <array>
 #include <string>
