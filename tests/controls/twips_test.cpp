@@ -9,21 +9,21 @@ namespace {
 
 constexpr int largest = std::numeric_limits<int>::max();
 
-TEST(Twips, arePixelsOfTheResolution) {
+TEST(Twips, ArePixelsOfTheResolution) {
   EXPECT_EQ(twipsToPixels(1440, 96), 96);
   EXPECT_EQ(twipsToPixels(5145, 96), 343);
   EXPECT_EQ(twipsToPixels(5145, 144), 515);
   EXPECT_EQ(pixelsToTwips(343, 96), 5145);
 }
 
-TEST(Twips, areRoundedToTheNearestPixelOnBothSidesOfZero) {
+TEST(Twips, AreRoundedToTheNearestPixelOnBothSidesOfZero) {
   EXPECT_EQ(twipsToPixels(7, 96), 0);
   EXPECT_EQ(twipsToPixels(8, 96), 1);
   EXPECT_EQ(twipsToPixels(-7, 96), 0);
   EXPECT_EQ(twipsToPixels(-8, 96), -1);
 }
 
-TEST(Twips, beyondAnyScreenStayOnTheirSide) {
+TEST(Twips, BeyondAnyScreenStayOnTheirSide) {
   const std::int64_t sum = std::int64_t{largest} + largest;
   EXPECT_EQ(twipsToPixels(largest, 192), 32767);
   EXPECT_EQ(twipsToPixels(sum, 192), 32767);

@@ -60,7 +60,7 @@ class EditorFaults : public ::testing::TestWithParam<EditorScript> {
   int actsToOpen = 0;
 };
 
-TEST_P(EditorFaults, areReportedOnceAndLeaveNoWrongRow) {
+TEST_P(EditorFaults, AreReportedOnceAndLeaveNoWrongRow) {
   for (int failing = 1; failing <= acts; ++failing) {
     SCOPED_TRACE("act " + std::to_string(failing));
     EditorJourney journey;
@@ -80,7 +80,7 @@ TEST_P(EditorFaults, areReportedOnceAndLeaveNoWrongRow) {
 
 // A trigger that could not be read is not written, whatever is tried; one that could is written
 // when the connection is back.
-TEST_P(EditorFaults, whileOpeningAnEditedTriggerLetItBeSavedWholeOrNotAtAll) {
+TEST_P(EditorFaults, WhileOpeningAnEditedTriggerLetItBeSavedWholeOrNotAtAll) {
   if (!GetParam().edits) return;
   int refused = 0;
   for (int failing = 1; failing <= actsToOpen; ++failing) {

@@ -11,13 +11,16 @@ CATCHERS = ("common/", "addin/", "win32/", "host/", "site/", "tests/", "benches/
 PRINTERS = ("host/", "site/", "tests/", "benches/", "tools/")
 OUTSIDE = ("host/", "drive/", "site/", "tests/", "benches/", "tools/")
 BOUNDARIES = ("win32/", "addin/", "host/", "tests/")
+CLOCK = r"(\bGetTickCount\(|\w+_clock\b|\bQueryPerformanceCounter|\bclock_gettime|\btimeGetTime)"
 
 RULES = [
     (r"\bcatch\s*\(", lambda name: not name.startswith(CATCHERS), "an error is caught by the guard, not here"),
     (r"\b(sleep_for|sleep_until|usleep|nanosleep|Sleep|SleepEx)\s*\(",
      lambda name: name.startswith("tests/"),
      "a test waits for what it expects, not for a time"),
-    (r"\b(LT|LE|GT|GE)\(.*(GetTickCount\(|steady_clock|high_resolution_clock)",
+    (CLOCK, lambda name: name.startswith("tests/") and not name.startswith("tests/windows/"),
+     "a native test needs no clock"),
+    (rf"\b(EXPECT|ASSERT)_(LT|LE|GT|GE|NEAR)\(.*({CLOCK}|std::chrono|\b(elapsed|passed)\b)",
      lambda name: name.startswith("tests/"),
      "speed is shown by a benchmark, never by a test"),
     (r"\bDISABLED_|\bGTEST_SKIP\b", lambda name: name.startswith("tests/") and not name.startswith("tests/windows/"),
@@ -47,6 +50,14 @@ def code_problems(name):
         yield f"{name}: no #pragma once"
 
 
+def names_of_cases(name):
+    """Suites and cases of tests are named in PascalCase."""
+    for case in re.finditer(r"^(?:TEST|TEST_F|TEST_P|TYPED_TEST|TYPED_TEST_P)\(\s*(\w+),\s*(\w+)\)", text(name), re.M):
+        if not all(re.fullmatch(r"[A-Z][A-Za-z0-9]*", part) for part in case.groups()):
+            line = text(name).count("\n", 0, case.start()) + 1
+            yield f"{name}:{line}: a test is named TEST(Suite, Behaviour): {case[0]}"
+
+
 def places_of_this_machine(name):
     """Absolute paths of whoever works on the project do not belong into it."""
     local = {str(ROOT), os.path.expanduser("~")} - {"/"}
@@ -62,6 +73,7 @@ def places_of_this_machine(name):
 
 def main():
     problems = [problem for name in files(*CODE) for problem in code_problems(name)]
+    problems += [problem for name in files(*CODE, under="tests/") for problem in names_of_cases(name)]
     problems += [problem for name in files() for problem in places_of_this_machine(name)]
     finish(problems)
 

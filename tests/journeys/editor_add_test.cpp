@@ -28,7 +28,7 @@ class AddJourney : public ::testing::Test, protected EditorJourney {
   SiteRows before;
 };
 
-TEST_F(AddJourney, theTypicalRequest) {
+TEST_F(AddJourney, TheTypicalRequest) {
   const int summaryRows = on<Grid>("frmTASummary", "MSFlexGrid1").rows();
   tickFilter("Alarm Events");
   checkEvent(1);
@@ -76,7 +76,7 @@ TEST_F(AddJourney, theTypicalRequest) {
                    "Server room B"))));
 }
 
-TEST_F(AddJourney, thePickerListsALocationOnlyOnce) {
+TEST_F(AddJourney, ThePickerListsALocationOnlyOnce) {
   pickWithoutPictures({"001.01.007.D01", "001.01.007.D01"});
   EXPECT_EQ(inEditor<ListView>("lvwLocation").count(), 1);
 }
@@ -89,7 +89,7 @@ struct MatrixCase {
 
 class AddMatrix : public AddJourney, public ::testing::WithParamInterface<MatrixCase> {};
 
-TEST_P(AddMatrix, writesEveryRow) {
+TEST_P(AddMatrix, WritesEveryRow) {
   const auto [action, returnToNormal] = GetParam();
   tickFilter("External Events");
   checkEvent(5001);
@@ -128,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(Actions, AddMatrix,
                                            MatrixCase{2, false}, MatrixCase{2, true},
                                            MatrixCase{3, false}, MatrixCase{3, true}));
 
-TEST_F(AddJourney, aRecorderGetsAnActionAndATriggerPerLocationAndEvent) {
+TEST_F(AddJourney, ARecorderGetsAnActionAndATriggerPerLocationAndEvent) {
   tickFilter("Access Events");
   checkEvent(1007);
   tickFilter("Zorn Transaction Events");
@@ -165,7 +165,7 @@ TEST_F(AddJourney, aRecorderGetsAnActionAndATriggerPerLocationAndEvent) {
                           "(Added, TriggerAction, 9, Trigger Event 80004, 1184)"));
 }
 
-TEST_F(AddJourney, aRecorderOfVendorFourIsSavedWithoutADuration) {
+TEST_F(AddJourney, ARecorderOfVendorFourIsSavedWithoutADuration) {
   tickFilter("Access Events");
   checkEvent(1007);
   pickWithoutPictures({"012.01.011.D01"});
@@ -178,7 +178,7 @@ TEST_F(AddJourney, aRecorderOfVendorFourIsSavedWithoutADuration) {
               ElementsAre("6 | 3 | 1 | 1 | 15 | 0 | 0 | 0 | 0"));
 }
 
-TEST_F(AddJourney, theSwitchersSettingsFileForbidsAnAction) {
+TEST_F(AddJourney, TheSwitchersSettingsFileForbidsAnAction) {
   showTab(1);
   choose("cmbCCTVSwitchers", "Perimeter switcher");
   EXPECT_EQ(inEditor<ComboBox>("cmbCCTVActions").listCount(), 2);
@@ -186,7 +186,7 @@ TEST_F(AddJourney, theSwitchersSettingsFileForbidsAnAction) {
   EXPECT_EQ(inEditor<ComboBox>("cmbCCTVActions").listCount(), 3);
 }
 
-TEST_F(AddJourney, applyTwiceWritesTheRowsTwice) {
+TEST_F(AddJourney, ApplyTwiceWritesTheRowsTwice) {
   tickFilter("Alarm Events");
   checkEvent(1);
   pickWithoutPictures({"001.01.007.D01"});
@@ -196,7 +196,7 @@ TEST_F(AddJourney, applyTwiceWritesTheRowsTwice) {
   EXPECT_EQ(added(before, rows()).at("CCTV_TriggerAction").size(), 2U);
 }
 
-TEST_F(AddJourney, cancelWritesNothing) {
+TEST_F(AddJourney, CancelWritesNothing) {
   tickFilter("Alarm Events");
   checkEvent(1);
   pickWithoutPictures({"001.01.007.D01"});
@@ -205,7 +205,7 @@ TEST_F(AddJourney, cancelWritesNothing) {
   EXPECT_EQ(rows(), before);
 }
 
-TEST_F(AddJourney, validationMessagesComeInTheirOrderAndWriteNothing) {
+TEST_F(AddJourney, ValidationMessagesComeInTheirOrderAndWriteNothing) {
   press("cmdOK");
   pickLocations({"001.01.007.D01"});
   screen.boxes.erase(screen.boxes.begin() + 1, screen.boxes.end());
@@ -220,7 +220,7 @@ TEST_F(AddJourney, validationMessagesComeInTheirOrderAndWriteNothing) {
   EXPECT_EQ(rows(), before);
 }
 
-TEST_F(AddJourney, aNameWithAQuoteMakesACctvSaveFailAndNothingElseHappens) {
+TEST_F(AddJourney, ANameWithAQuoteMakesACctvSaveFailAndNothingElseHappens) {
   tickFilter("Alarm Events");
   checkEvent(1);
   pickWithoutPictures({"001.02.008.D03"});
@@ -230,7 +230,7 @@ TEST_F(AddJourney, aNameWithAQuoteMakesACctvSaveFailAndNothingElseHappens) {
   EXPECT_EQ(rows(), before);
 }
 
-TEST_F(AddJourney, closingTheEditorClosesItsPicker) {
+TEST_F(AddJourney, ClosingTheEditorClosesItsPicker) {
   press("cmdAddLocation");
   screen.boxes.clear();
   press("cmdCancel");

@@ -24,7 +24,7 @@ class CategoryJourney : public ::testing::TestWithParam<CategoryCase>, protected
   }
 };
 
-TEST_P(CategoryJourney, isAskedForBeforeItTakesAChosenEventAway) {
+TEST_P(CategoryJourney, IsAskedForBeforeItTakesAChosenEventAway) {
   auto& events = inEditor<ListView>("lvwEvents");
   tickFilter(GetParam().category);
   ASSERT_GT(events.count(), 0);

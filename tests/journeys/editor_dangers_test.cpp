@@ -29,25 +29,25 @@ class EditorDangers : public ::testing::Test, protected EditorJourney {
   SiteRows before;
 };
 
-TEST_F(EditorDangers, aCctvTriggerThatVanishedDoesNotOverwriteARecorderTrigger) {
+TEST_F(EditorDangers, ACctvTriggerThatVanishedDoesNotOverwriteARecorderTrigger) {
   direct->execute("delete from CCTV_TriggerAction where TA_ID = 3");
   edit("CCTV", 3);
   saveChangesNothing();
 }
 
-TEST_F(EditorDangers, aRecorderTriggerThatVanishedDoesNotOverwriteACctvTrigger) {
+TEST_F(EditorDangers, ARecorderTriggerThatVanishedDoesNotOverwriteACctvTrigger) {
   direct->execute("exec TA_DeleteTrigger 2");
   edit("DVR / NVR", 2);
   saveChangesNothing();
 }
 
-TEST_F(EditorDangers, aTriggerOfAForeignClassIsLeftAlone) {
+TEST_F(EditorDangers, ATriggerOfAForeignClassIsLeftAlone) {
   edit("Intercom", 7);
   EXPECT_EQ(inEditor<ComboBox>("cmbActionDeviceClass").listIndex(), -1);
   saveChangesNothing();
 }
 
-TEST_F(EditorDangers, aTriggerWithoutItsActionOpensWithTheValuesOfANewOne) {
+TEST_F(EditorDangers, ATriggerWithoutItsActionOpensWithTheValuesOfANewOne) {
   edit("DVR / NVR", 6);
   EXPECT_EQ(inEditor<TextBox>("txtDVRAlarmDuration").text(), "15");
   press("cmdOK");
@@ -55,7 +55,7 @@ TEST_F(EditorDangers, aTriggerWithoutItsActionOpensWithTheValuesOfANewOne) {
   EXPECT_EQ(rows(), before);
 }
 
-TEST_F(EditorDangers, aRateThatIsNotOfferedBecomesTheDefaultOneWhenSaved) {
+TEST_F(EditorDangers, ARateThatIsNotOfferedBecomesTheDefaultOneWhenSaved) {
   edit("DVR / NVR", 5);
   press("cmdOK");
   const SiteRows changed = added(before, rows());
@@ -63,7 +63,7 @@ TEST_F(EditorDangers, aRateThatIsNotOfferedBecomesTheDefaultOneWhenSaved) {
   EXPECT_EQ(changed.at("DVR_TriggerActions").front(), "5 | 1 | 2 | 1 | 15 | 20 | 0 | 0 | 0");
 }
 
-TEST_F(EditorDangers, aTriggerDeletedWhileItsEditorIsOpenIsNotMadeAgain) {
+TEST_F(EditorDangers, ATriggerDeletedWhileItsEditorIsOpenIsNotMadeAgain) {
   edit("CCTV", 4);
   direct->execute("delete from CCTV_TriggerAction where TA_ID = 4");
   const SiteRows deleted = rows();
@@ -71,7 +71,7 @@ TEST_F(EditorDangers, aTriggerDeletedWhileItsEditorIsOpenIsNotMadeAgain) {
   EXPECT_EQ(rows(), deleted);
 }
 
-TEST_F(EditorDangers, aConnectionTakenAwayWhileEditingWritesNothing) {
+TEST_F(EditorDangers, AConnectionTakenAwayWhileEditingWritesNothing) {
   edit("CCTV", 4);
   component.module().setDBConnection(nullptr);
   press("cmdOK");

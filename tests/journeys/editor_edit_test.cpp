@@ -21,7 +21,7 @@ class EditJourney : public ::testing::Test, protected EditorJourney {
   SiteRows before;
 };
 
-TEST_F(EditJourney, showsAStoredCctvAction) {
+TEST_F(EditJourney, ShowsAStoredCctvAction) {
   edit("CCTV", 4);
   EXPECT_EQ(editor().caption(), "Edit Trigger Action");
   EXPECT_EQ(inEditor<TextBox>("txtLocation").text(), "012.01.013.I01");
@@ -33,7 +33,7 @@ TEST_F(EditJourney, showsAStoredCctvAction) {
   EXPECT_THAT(screen.boxes, IsEmpty());
 }
 
-TEST_F(EditJourney, changesTheOneCctvRow) {
+TEST_F(EditJourney, ChangesTheOneCctvRow) {
   edit("CCTV", 4);
   showTab(1);
   choose("cmbCCTVMonitors", "4");
@@ -47,7 +47,7 @@ TEST_F(EditJourney, changesTheOneCctvRow) {
               ElementsAre("(Update, TriggerAction, 4, Trigger Event 17, 1185)"));
 }
 
-TEST_F(EditJourney, anUnchangedCctvTriggerKeepsAllButItsLocationText) {
+TEST_F(EditJourney, AnUnchangedCctvTriggerKeepsAllButItsLocationText) {
   edit("CCTV", 1);
   press("cmdOK");
   EXPECT_THAT(added(before, rows()),
@@ -56,7 +56,7 @@ TEST_F(EditJourney, anUnchangedCctvTriggerKeepsAllButItsLocationText) {
                                            "| 1 | 001.01.001.D01"))));
 }
 
-TEST_F(EditJourney, everyUnchangedRecorderTriggerKeepsItsRows) {
+TEST_F(EditJourney, EveryUnchangedRecorderTriggerKeepsItsRows) {
   for (const int id : {1, 2, 3, 4}) {
     edit("DVR / NVR", id);
     showTab(1);
@@ -69,7 +69,7 @@ TEST_F(EditJourney, everyUnchangedRecorderTriggerKeepsItsRows) {
   EXPECT_THAT(screen.boxes, IsEmpty());
 }
 
-TEST_F(EditJourney, changesTheRecordersActionAndTrigger) {
+TEST_F(EditJourney, ChangesTheRecordersActionAndTrigger) {
   edit("DVR / NVR", 3);
   editor().setSingleLocation("001.01.007.D01 - Server room A", "001.01.007.D01");
   tickFilter("Alarm Events");
@@ -86,7 +86,7 @@ TEST_F(EditJourney, changesTheRecordersActionAndTrigger) {
                   Pair("IntegratedDeviceTriggers", ElementsAre("3 | 001.01.007.D01 | 1 | 3 | 1"))));
 }
 
-TEST_F(EditJourney, theSingleLocationComesFromThePicker) {
+TEST_F(EditJourney, TheSingleLocationComesFromThePicker) {
   edit("CCTV", 1);
   press("cmdSingleLocation");
   auto& tree = on<TreeView>("FLocation", "tvTree");
@@ -110,7 +110,7 @@ TEST_F(EditJourney, theSingleLocationComesFromThePicker) {
                           "001.01.007.D02 - Server room B"));
 }
 
-TEST_F(EditJourney, applyTwiceUpdatesTheSameRow) {
+TEST_F(EditJourney, ApplyTwiceUpdatesTheSameRow) {
   edit("CCTV", 2);
   press("cmdApply");
   const SiteRows once = rows();
@@ -119,7 +119,7 @@ TEST_F(EditJourney, applyTwiceUpdatesTheSameRow) {
   EXPECT_TRUE(isOpen("frmTriggerAction"));
 }
 
-TEST_F(EditJourney, cancelChangesNothing) {
+TEST_F(EditJourney, CancelChangesNothing) {
   edit("CCTV", 2);
   showTab(1);
   choose("cmbCCTVMonitors", "8");

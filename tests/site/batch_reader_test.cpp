@@ -41,7 +41,7 @@ std::string readerCaseName(const testing::TestParamInfo<ReaderCase>& info) {
 
 class Understands : public testing::TestWithParam<ReaderCase> {};
 
-TEST_P(Understands, statement) {
+TEST_P(Understands, Statement) {
   EXPECT_EQ(shown(readBatch(GetParam().sql)), GetParam().expected);
 }
 
@@ -102,7 +102,7 @@ INSTANTIATE_TEST_SUITE_P(Reader, Understands, testing::ValuesIn(understood), rea
 
 class Refuses : public testing::TestWithParam<ReaderCase> {};
 
-TEST_P(Refuses, statement) {
+TEST_P(Refuses, Statement) {
   try {
     const Batch batch = readBatch(GetParam().sql);
     FAIL() << "read as " << shown(batch);
@@ -164,7 +164,7 @@ const ReaderCase refused[]{
 
 INSTANTIATE_TEST_SUITE_P(Reader, Refuses, testing::ValuesIn(refused), readerCaseName);
 
-TEST(Reader, dividesHostileTextWithoutHarm) {
+TEST(Reader, DividesHostileTextWithoutHarm) {
   const std::string pieces = "'\"[]()-/*@N0.e;=<>! \n\xC3\xFFx";
   unsigned state = 12345;
   for (int round = 0; round < 5000; ++round) {

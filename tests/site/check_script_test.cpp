@@ -45,13 +45,13 @@ class CheckScript : public testing::Test {
   Batches batches_ = script("5-check.sql");
 };
 
-TEST_F(CheckScript, sendsEveryStatementWordForWordAsABatchOfItsOwn) {
+TEST_F(CheckScript, SendsEveryStatementWordForWordAsABatchOfItsOwn) {
   for (const SiteStatement& statement : siteStatements()) {
     EXPECT_EQ(innerText(stepOf(statement.name)), statement.text);
   }
 }
 
-TEST_F(CheckScript, aWritingStatementIsBegunAndUndoneInOneBatchAndOnlyWhenNothingFailedBefore) {
+TEST_F(CheckScript, AWritingStatementIsBegunAndUndoneInOneBatchAndOnlyWhenNothingFailedBefore) {
   EXPECT_THAT(
       stepOf("DeleteTriggerAction.Trigger"),
       testing::MatchesRegex(
@@ -83,7 +83,7 @@ TEST_F(CheckScript, aWritingStatementIsBegunAndUndoneInOneBatchAndOnlyWhenNothin
 }
 
 // What a step expects to have passed is all that stands before it.
-TEST_F(CheckScript, everyWritingStatementWaitsForAllStepsBeforeIt) {
+TEST_F(CheckScript, EveryWritingStatementWaitsForAllStepsBeforeIt) {
   static const std::regex expected("N'passed'\\) = ([0-9]+)\nbegin\n");
   std::size_t steps = 0;
   std::size_t writers = 0;
@@ -105,7 +105,7 @@ TEST_F(CheckScript, everyWritingStatementWaitsForAllStepsBeforeIt) {
   EXPECT_THAT(batches_.back(), HasSubstr("select @errors = " + std::to_string(steps) + " - "));
 }
 
-TEST_F(CheckScript, outsideItsStepsNothingTouchesTheSitesTables) {
+TEST_F(CheckScript, OutsideItsStepsNothingTouchesTheSitesTables) {
   for (const std::string& batch : batches_) {
     const bool sends = batch.find("begin transaction\nexec (N'") != std::string::npos;
     if (sends) continue;
@@ -117,7 +117,7 @@ TEST_F(CheckScript, outsideItsStepsNothingTouchesTheSitesTables) {
   }
 }
 
-TEST_F(CheckScript, everyTransactionIsBegunAndUndoneInItsOwnBatch) {
+TEST_F(CheckScript, EveryTransactionIsBegunAndUndoneInItsOwnBatch) {
   std::size_t transactions = 0;
   for (const std::string& batch : batches_) {
     const std::size_t begin = batch.find("\nbegin transaction\n");
@@ -133,7 +133,7 @@ TEST_F(CheckScript, everyTransactionIsBegunAndUndoneInItsOwnBatch) {
   EXPECT_EQ(transactions, siteStatements().size() + 1);
 }
 
-TEST_F(CheckScript, theLastLineCountsTheErrorsAndIsAnErrorWhenThereWasOne) {
+TEST_F(CheckScript, TheLastLineCountsTheErrorsAndIsAnErrorWhenThereWasOne) {
   EXPECT_THAT(batches_.back(), HasSubstr("if @errors + @skipped = 0 print N'5-check.sql' + "
                                          "N' is done: no errors; nothing was kept.'\n"
                                          "else raiserror(N'5-check.sql: %d errors, %d statements "
@@ -142,7 +142,7 @@ TEST_F(CheckScript, theLastLineCountsTheErrorsAndIsAnErrorWhenThereWasOne) {
                                          "N'ended') set @kept = N'a statement ended"));
 }
 
-TEST_F(CheckScript, comparesColumnsParametersAndResultsOfProcedures) {
+TEST_F(CheckScript, ComparesColumnsParametersAndResultsOfProcedures) {
   std::size_t columns = 0;
   for (const Table& table : siteSchema().tables()) columns += table.columns.size();
   EXPECT_EQ(count("if exists (select 1 from information_schema.columns"), columns);
@@ -157,7 +157,7 @@ TEST_F(CheckScript, comparesColumnsParametersAndResultsOfProcedures) {
             results);
 }
 
-TEST_F(CheckScript, aResultColumnIsComparedByNameAndTypeAndPositionWhereItIsReadSo) {
+TEST_F(CheckScript, AResultColumnIsComparedByNameAndTypeAndPositionWhereItIsReadSo) {
   Batches inner;
   for (const std::string& batch : batches_) inner.push_back(innerText(batch));
   const std::string ports =
@@ -174,7 +174,7 @@ TEST_F(CheckScript, aResultColumnIsComparedByNameAndTypeAndPositionWhereItIsRead
                          ports + "N'PortType' and system_type_name = N'smallint') insert into")));
 }
 
-TEST_F(CheckScript, endsNoTransactionButItsOwn) {
+TEST_F(CheckScript, EndsNoTransactionButItsOwn) {
   for (const char* name : {"LoadFilterList", "DeleteTriggerAction.Trigger", "AddDVRAction"}) {
     EXPECT_THAT(stepOf(name), HasSubstr("\nif @@trancount = 0")) << name;
   }

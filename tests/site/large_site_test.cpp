@@ -32,7 +32,7 @@ class LargeSite : public testing::Test {
   std::unique_ptr<Connection> connection_ = SiteDatabase::inMemory(largeSite(size)).connect();
 };
 
-TEST_F(LargeSite, hasAsManyOfEverythingAsWanted) {
+TEST_F(LargeSite, HasAsManyOfEverythingAsWanted) {
   EXPECT_EQ(count(*connection_, "Controllers"), 100);
   EXPECT_EQ(count(*connection_, "Doors") + count(*connection_, "Inputs") +
                 count(*connection_, "Outputs") + count(*connection_, "Readers"),
@@ -48,7 +48,7 @@ TEST_F(LargeSite, hasAsManyOfEverythingAsWanted) {
   EXPECT_EQ(events, 70);
 }
 
-TEST_F(LargeSite, everyLocationIsOfferedUnderItsController) {
+TEST_F(LargeSite, EveryLocationIsOfferedUnderItsController) {
   int offered = 0;
   for (int id = 1; id <= size.controllers; ++id) {
     const std::string controller = "ControllerID = " + std::to_string(id);
@@ -62,7 +62,7 @@ TEST_F(LargeSite, everyLocationIsOfferedUnderItsController) {
   EXPECT_EQ(offered, 1003);
 }
 
-TEST_F(LargeSite, everyControllerHangsOnOnePortOrMultiplexer) {
+TEST_F(LargeSite, EveryControllerHangsOnOnePortOrMultiplexer) {
   std::set<int> controllers;
   RecordSet ports = connection_->open("select PortID from ServerPorts");
   while (ports.next()) {
@@ -78,7 +78,7 @@ TEST_F(LargeSite, everyControllerHangsOnOnePortOrMultiplexer) {
   EXPECT_EQ(controllers.size(), 100U);
 }
 
-TEST_F(LargeSite, everyTriggerStandsAtALocationThatExists) {
+TEST_F(LargeSite, EveryTriggerStandsAtALocationThatExists) {
   for (const char* trigger :
        {"CCTV_TriggerAction where T_Address", "IntegratedDeviceTriggers where TriggerAddress"}) {
     EXPECT_EQ(count(*connection_, std::string(trigger) +
@@ -89,7 +89,7 @@ TEST_F(LargeSite, everyTriggerStandsAtALocationThatExists) {
   }
 }
 
-TEST_F(LargeSite, everyRecorderTriggerHasItsAction) {
+TEST_F(LargeSite, EveryRecorderTriggerHasItsAction) {
   EXPECT_EQ(count(*connection_,
                   "IntegratedDeviceTriggers inner join DVR_TriggerActions on "
                   "DVR_TriggerActions.DVRActionID = ActionID"),
@@ -109,7 +109,7 @@ class Transcript final : public site::RowSink {
   std::string text_;
 };
 
-TEST_F(LargeSite, isTheSameEachTime) {
+TEST_F(LargeSite, IsTheSameEachTime) {
   Transcript first;
   Transcript second;
   largeSite(size)(first);
@@ -118,7 +118,7 @@ TEST_F(LargeSite, isTheSameEachTime) {
   EXPECT_GT(first.text().size(), 10000U);
 }
 
-TEST(LargeSiteSize, nothingWantedIsTheBareSite) {
+TEST(LargeSiteSize, NothingWantedIsTheBareSite) {
   Transcript bare;
   Transcript generated;
   bareSite(bare);
@@ -128,13 +128,13 @@ TEST(LargeSiteSize, nothingWantedIsTheBareSite) {
   EXPECT_EQ(count(*connection, "Controllers") + count(*connection, "CCTV_TriggerAction"), 0);
 }
 
-TEST(LargeSiteSize, impossibleSizesAreRefused) {
+TEST(LargeSiteSize, ImpossibleSizesAreRefused) {
   EXPECT_THROW(largeSite({-1, 0, 0, 0}), RunTimeError);
   EXPECT_THROW(largeSite({0, 10, 0, 0}), RunTimeError);
   EXPECT_THROW(largeSite({1, 1, 1, 60000}), RunTimeError);
 }
 
-TEST(LargeSiteSize, twentyThousandEventsFitIntoTheirCategories) {
+TEST(LargeSiteSize, TwentyThousandEventsFitIntoTheirCategories) {
   const auto connection = SiteDatabase::inMemory(largeSite({0, 0, 0, 20000})).connect();
   RecordSet types = connection->open("exec TA_FetchAllEventTypeInfo");
   int events = 0;
@@ -161,7 +161,7 @@ std::string engineText(const std::string& sql) {
   return site::findProcedure(std::get<site::CallText>(batch).procedure).embeddedBody;
 }
 
-TEST(Indexes, noStatementWithAConditionReadsAWholeTable) {
+TEST(Indexes, NoStatementWithAConditionReadsAWholeTable) {
   const auto engine = site::Engine::open(":memory:", site::Engine::Mode::Memory);
   site::createTables(*engine);
   for (const site::SiteStatement& statement : site::siteStatements()) {

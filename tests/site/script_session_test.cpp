@@ -26,7 +26,7 @@ bool isSetting(const std::string& batch) {
 
 class CountedScript : public testing::TestWithParam<std::string> {};
 
-TEST_P(CountedScript, looksAfterEachBatchWhetherItFailed) {
+TEST_P(CountedScript, LooksAfterEachBatchWhetherItFailed) {
   const Batches batches = script(GetParam());
   auto batch = std::find_if_not(batches.begin(), batches.end(), isSetting);
   std::size_t pairs = 0;
@@ -37,7 +37,7 @@ TEST_P(CountedScript, looksAfterEachBatchWhetherItFailed) {
   EXPECT_GT(pairs, 15U);
 }
 
-TEST_P(CountedScript, endsWithAnErrorOrWithTheSentenceThatAllWentWell) {
+TEST_P(CountedScript, EndsWithAnErrorOrWithTheSentenceThatAllWentWell) {
   EXPECT_EQ(script(GetParam()).back(),
             "if exists (select 1 from [#PelorinScript] where Mark = N'error')\nraiserror(N'" +
                 GetParam() + " had errors.', 16, 1)\nelse print N'" + GetParam() +
@@ -62,7 +62,7 @@ class DataScriptOrder : public testing::Test {
   Batches batches_ = script("3-data.sql");
 };
 
-TEST_F(DataScriptOrder, checksEveryTableAndColumnBeforeItBegins) {
+TEST_F(DataScriptOrder, ChecksEveryTableAndColumnBeforeItBegins) {
   const Place begin = first("\nbegin transaction\n");
   ASSERT_NE(begin, batches_.end());
   for (const Table& table : siteSchema().tables()) {
@@ -77,7 +77,7 @@ TEST_F(DataScriptOrder, checksEveryTableAndColumnBeforeItBegins) {
   }
 }
 
-TEST_F(DataScriptOrder, beginsOnlyWithoutErrorsWithoutATransactionAndWhereNoTableHasARow) {
+TEST_F(DataScriptOrder, BeginsOnlyWithoutErrorsWithoutATransactionAndWhereNoTableHasARow) {
   const std::string& batch = *first("\nbegin transaction\n");
   const std::size_t begin = batch.find("\nbegin transaction\n");
   const std::size_t errors =
@@ -94,7 +94,7 @@ TEST_F(DataScriptOrder, beginsOnlyWithoutErrorsWithoutATransactionAndWhereNoTabl
 }
 
 // The mark is a row of the transaction itself: an error that ends the transaction takes it away.
-TEST_F(DataScriptOrder, addsAndKeepsRowsOnlyWhileItsOwnTransactionStands) {
+TEST_F(DataScriptOrder, AddsAndKeepsRowsOnlyWhileItsOwnTransactionStands) {
   const Place begin = first("\nbegin transaction\n");
   EXPECT_THAT(*begin, HasSubstr("\nbegin transaction\n"
                                 "insert into [#PelorinScript] (Mark) values (N'begun')\nend"));
@@ -121,7 +121,7 @@ std::string administratorsPage() {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-TEST(AdministratorsLoops, stopAtTheFirstScriptThatDoesNotSayItIsDone) {
+TEST(AdministratorsLoops, StopAtTheFirstScriptThatDoesNotSayItIsDone) {
   const std::string page = administratorsPage();
   EXPECT_THAT(page, HasSubstr("-b -i \"$f\" || break"));
   EXPECT_THAT(page, HasSubstr("grep -qF \"${f##*/} is done\" \"$f.log\" || break"));

@@ -10,7 +10,7 @@ namespace {
 
 class EmbeddedError : public SiteTest, public testing::WithParamInterface<site::ServerError> {};
 
-TEST_P(EmbeddedError, hasTheNumberThatAdoGivesTheServers) {
+TEST_P(EmbeddedError, HasTheNumberThatAdoGivesTheServers) {
   try {
     connection_->execute(GetParam().statement);
     FAIL() << "it ran";
@@ -22,7 +22,7 @@ TEST_P(EmbeddedError, hasTheNumberThatAdoGivesTheServers) {
 INSTANTIATE_TEST_SUITE_P(Server, EmbeddedError, testing::ValuesIn(site::serverErrors),
                          [](const auto& error) { return std::string(error.param.name); });
 
-TEST(AdoErrorNumber, followsTheStateWhereTheServersNumberSaysNoMore) {
+TEST(AdoErrorNumber, FollowsTheStateWhereTheServersNumberSaysNoMore) {
   EXPECT_EQ(site::adoErrorNumber(0, "S0002"), -2147217865);
   EXPECT_EQ(site::adoErrorNumber(245, "22018"), -2147217913);
   EXPECT_EQ(site::adoErrorNumber(8115, "22003"), -2147217833);
@@ -35,7 +35,7 @@ TEST(AdoErrorNumber, followsTheStateWhereTheServersNumberSaysNoMore) {
 
 class Keys : public SiteTest {};
 
-TEST_F(Keys, aNullIsRefusedInEveryKeyThatTheEngineDoesNotNumber) {
+TEST_F(Keys, ANullIsRefusedInEveryKeyThatTheEngineDoesNotNumber) {
   for (const site::Table& table : site::siteSchema().tables()) {
     if (table.hasIdentity()) continue;
     const std::int64_t before = count(table.name);
@@ -47,7 +47,7 @@ TEST_F(Keys, aNullIsRefusedInEveryKeyThatTheEngineDoesNotNumber) {
   }
 }
 
-TEST_F(Keys, aNullAsANumberThatTheEngineGivesIsRefusedWhereASiteIsFilled) {
+TEST_F(Keys, ANullAsANumberThatTheEngineGivesIsRefusedWhereASiteIsFilled) {
   const auto filling = [](site::RowSink& rows) {
     rows.begin(*site::siteSchema().table("CCTV_TriggerAction"), {"TA_ID", "T_EventID"});
     rows.row({Null{}, std::int64_t{1}});

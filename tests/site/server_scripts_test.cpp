@@ -48,7 +48,7 @@ std::vector<std::string> linesOf(const std::string& text) {
 
 class EveryScript : public testing::TestWithParam<std::string> {};
 
-TEST_P(EveryScript, hasOnlyLinesThatEveryToolTakes) {
+TEST_P(EveryScript, HasOnlyLinesThatEveryToolTakes) {
   for (const std::string& batch : script(GetParam())) {
     EXPECT_FALSE(batch.empty());
     for (const std::string& line : linesOf(batch)) {
@@ -60,7 +60,7 @@ TEST_P(EveryScript, hasOnlyLinesThatEveryToolTakes) {
   }
 }
 
-TEST_P(EveryScript, dividesIntoTokensWithBalancedParentheses) {
+TEST_P(EveryScript, DividesIntoTokensWithBalancedParentheses) {
   for (const std::string& batch : script(GetParam())) {
     int depth = 0;
     for (const Token& token : tokenize(batch)) {
@@ -72,7 +72,7 @@ TEST_P(EveryScript, dividesIntoTokensWithBalancedParentheses) {
   }
 }
 
-TEST_P(EveryScript, dropsAndReplacesNothing) {
+TEST_P(EveryScript, DropsAndReplacesNothing) {
   for (const std::string& batch : script(GetParam())) {
     EXPECT_FALSE(std::regex_search(
         batch, std::regex("\\b(drop|alter|truncate|merge)\\b", std::regex::icase)))
@@ -151,7 +151,7 @@ class BothEngines : public testing::Test {
   std::shared_ptr<Engine> engine_ = Engine::open(":memory:", Engine::Mode::Memory);
 };
 
-TEST_F(BothEngines, haveTheSameTablesColumnsAndKeys) {
+TEST_F(BothEngines, HaveTheSameTablesColumnsAndKeys) {
   std::size_t tables = 0;
   for (const std::string& batch : script("1-tables.sql")) {
     if (batch.find("create table dbo.") == std::string::npos) continue;
@@ -168,7 +168,7 @@ TEST_F(BothEngines, haveTheSameTablesColumnsAndKeys) {
                      "and name not like 'sqlite%'")[0][0]);
 }
 
-TEST_F(BothEngines, haveTheSameIndexes) {
+TEST_F(BothEngines, HaveTheSameIndexes) {
   std::set<std::vector<std::string>> server;
   for (const std::string& batch : script("1-tables.sql")) {
     const std::size_t at = batch.find("create index");
@@ -200,7 +200,7 @@ std::vector<std::string> selectList(const std::string& body) {
   return names;
 }
 
-TEST_F(BothEngines, proceduresGiveTheSameColumns) {
+TEST_F(BothEngines, ProceduresGiveTheSameColumns) {
   for (const Procedure& procedure : siteProcedures()) {
     std::vector<std::string> declared;
     for (const ResultColumn& column : procedure.results) declared.push_back(column.name);
@@ -211,7 +211,7 @@ TEST_F(BothEngines, proceduresGiveTheSameColumns) {
   }
 }
 
-TEST_F(BothEngines, proceduresUseAllTheirParametersAndNoOthers) {
+TEST_F(BothEngines, ProceduresUseAllTheirParametersAndNoOthers) {
   for (const Procedure& procedure : siteProcedures()) {
     std::set<std::string> declared;
     for (const Parameter& parameter : procedure.parameters) declared.insert(parameter.name);
@@ -226,7 +226,7 @@ TEST_F(BothEngines, proceduresUseAllTheirParametersAndNoOthers) {
   }
 }
 
-TEST_F(BothEngines, holdTheSameRowsAfterTheDataScript) {
+TEST_F(BothEngines, HoldTheSameRowsAfterTheDataScript) {
   for (std::string batch : script("3-data.sql")) {
     const std::size_t start = batch.find("insert into dbo.");
     if (start == std::string::npos) continue;
@@ -251,7 +251,7 @@ TEST_F(BothEngines, holdTheSameRowsAfterTheDataScript) {
   }
 }
 
-TEST(ProcedureScript, declaresParametersInOrderAndTextsWideEnoughToFailInTheTable) {
+TEST(ProcedureScript, DeclaresParametersInOrderAndTextsWideEnoughToFailInTheTable) {
   EXPECT_THAT(procedureDefinition(findProcedure("pav_AddDeviceTrigger")),
               HasSubstr("create procedure dbo.[pav_AddDeviceTrigger]\n"
                         "  @Address nvarchar(max),\n  @EventID int,\n  @ActionID int,\n"
@@ -263,7 +263,7 @@ TEST(ProcedureScript, declaresParametersInOrderAndTextsWideEnoughToFailInTheTabl
               HasSubstr("create procedure dbo.[TA_FetchSummary]\nas\n"));
 }
 
-TEST(ProcedureScript, makesEveryProcedureOnce) {
+TEST(ProcedureScript, MakesEveryProcedureOnce) {
   const Batches batches = script("2-procedures.sql");
   for (const Procedure& procedure : siteProcedures()) {
     const std::string start = "if object_id(N'dbo.[" + procedure.name + "]') is null\nexec (N'";
@@ -274,7 +274,7 @@ TEST(ProcedureScript, makesEveryProcedureOnce) {
   }
 }
 
-TEST(DataScript, givesIdentitiesOnlyWhereATableNumbersItsRows) {
+TEST(DataScript, GivesIdentitiesOnlyWhereATableNumbersItsRows) {
   for (const std::string& batch : script("3-data.sql")) {
     if (batch.find("insert into dbo.") == std::string::npos) continue;
     const std::string table = bracketedNames(batch.substr(batch.find("insert into dbo.")))[0];
@@ -285,7 +285,7 @@ TEST(DataScript, givesIdentitiesOnlyWhereATableNumbersItsRows) {
   }
 }
 
-TEST(DataScript, aGeneratedSiteComesInInsertsThatAServerTakes) {
+TEST(DataScript, AGeneratedSiteComesInInsertsThatAServerTakes) {
   std::size_t doors = 0;
   for (const std::string& batch : script("3-data.sql", largeSite({50, 2000, 10, 10}))) {
     const auto rows = std::count(batch.begin(), batch.end(), '\n');
@@ -298,7 +298,7 @@ TEST(DataScript, aGeneratedSiteComesInInsertsThatAServerTakes) {
   EXPECT_EQ(doors, 500U);
 }
 
-TEST(ServerLiteral, keepsEveryKindOfValue) {
+TEST(ServerLiteral, KeepsEveryKindOfValue) {
   const SqlType text{SqlType::Kind::Text, 50};
   const SqlType number{SqlType::Kind::Int};
   EXPECT_EQ(serverLiteral(text, std::string("O'Brien")), "N'O''Brien'");
@@ -313,7 +313,7 @@ TEST(ServerLiteral, keepsEveryKindOfValue) {
   EXPECT_EQ(bracketed("a]b"), "[a]]b]");
 }
 
-TEST(RightsScript, grantsExactlyWhatTheComponentSends) {
+TEST(RightsScript, GrantsExactlyWhatTheComponentSends) {
   const ComponentRights rights = componentRights();
   EXPECT_THAT(rights.remove, ElementsAre("CCTV_TriggerAction", "DVR_TriggerActions"));
   EXPECT_EQ(rights.execute.size(), siteProcedures().size());
@@ -332,7 +332,7 @@ TEST(RightsScript, grantsExactlyWhatTheComponentSends) {
   EXPECT_THAT(batches, Contains("grant delete on dbo.[CCTV_TriggerAction] to [PelorinComponent]"));
 }
 
-TEST(AdministratorsPage, namesEveryTable) {
+TEST(AdministratorsPage, NamesEveryTable) {
   std::ifstream file(PELORIN_DATABASE_PAGE, std::ios::binary);
   const std::string page{std::istreambuf_iterator<char>(file), {}};
   for (const Table& table : siteSchema().tables()) {
@@ -354,7 +354,7 @@ std::set<std::string, std::less<>> columnsInSight(const std::string& sql) {
   return names;
 }
 
-TEST(StatementTable, readsOnlyColumnsThatTheSourceHas) {
+TEST(StatementTable, ReadsOnlyColumnsThatTheSourceHas) {
   for (const SiteStatement& statement : siteStatements()) {
     const Batch batch = readBatch(statement.text);
     std::set<std::string, std::less<>> known = columnsInSight(statement.text);

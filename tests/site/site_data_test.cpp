@@ -39,7 +39,7 @@ bool isAddress(const std::string& column) {
   return equalNoCase(column, "Address") || equalNoCase(column, "GlobalAddressID");
 }
 
-TEST_F(DemonstrationSite, addressesAreUniqueAndCanBeStored) {
+TEST_F(DemonstrationSite, AddressesAreUniqueAndCanBeStored) {
   std::set<std::string> seen;
   for (const site::Table& table : site::siteSchema().tables()) {
     for (const site::Column& address : table.columns) {
@@ -55,7 +55,7 @@ TEST_F(DemonstrationSite, addressesAreUniqueAndCanBeStored) {
   EXPECT_GT(seen.size(), 250U);
 }
 
-TEST_F(DemonstrationSite, namesHaveNoTabsOrLineBreaks) {
+TEST_F(DemonstrationSite, NamesHaveNoTabsOrLineBreaks) {
   for (const site::Table& table : site::siteSchema().tables()) {
     RecordSet rows = connection_->open("select * from " + table.name);
     while (rows.next()) {
@@ -66,18 +66,18 @@ TEST_F(DemonstrationSite, namesHaveNoTabsOrLineBreaks) {
   }
 }
 
-TEST_F(DemonstrationSite, hasControllersOfEveryTypeThatTheTreeTellsApart) {
+TEST_F(DemonstrationSite, HasControllersOfEveryTypeThatTheTreeTellsApart) {
   EXPECT_THAT(numbers("select Controller_Type from Controllers"),
               IsSupersetOf({3, 4, 5, 6, 7, 8, 9, 11, 15, 2}));
 }
 
-TEST_F(DemonstrationSite, hasPortsOfBothStyles) {
+TEST_F(DemonstrationSite, HasPortsOfBothStyles) {
   EXPECT_THAT(column("select PortStyle from ServerPorts"),
               AllOf(Contains("Vollo"), Contains("Pamba"), Contains("")));
   EXPECT_EQ(count("Servers"), 2);
 }
 
-TEST_F(DemonstrationSite, hasExpansionPointsWithEveryKindOfSetUp) {
+TEST_F(DemonstrationSite, HasExpansionPointsWithEveryKindOfSetUp) {
   EXPECT_THAT(numbers("select ControllerID from PanelBasicSetups where ef_reb64 = 1"), Contains(3));
   EXPECT_THAT(numbers("select ControllerID from PanelBasicSetups where ef_reb8 = 1"), Contains(8));
   EXPECT_THAT(numbers("select ControllerID from ExpInputs where ControllerID not in "
@@ -90,7 +90,7 @@ TEST_F(DemonstrationSite, hasExpansionPointsWithEveryKindOfSetUp) {
             0U);
 }
 
-TEST_F(DemonstrationSite, hasItemsThatAreNoLocations) {
+TEST_F(DemonstrationSite, HasItemsThatAreNoLocations) {
   for (const char* sql :
        {"select DoorID from Doors where Active = 0", "select DoorID from Doors where Visible = 0",
         "select InputID from Inputs where BelongToDoor = 1",
@@ -104,7 +104,7 @@ TEST_F(DemonstrationSite, hasItemsThatAreNoLocations) {
   }
 }
 
-TEST_F(DemonstrationSite, eventNumbersSuitTheirTypes) {
+TEST_F(DemonstrationSite, EventNumbersSuitTheirTypes) {
   RecordSet types = connection_->open("exec TA_FetchAllEventTypeInfo");
   while (types.next()) {
     if (isNull(types.value("MinEventID"))) continue;
@@ -118,7 +118,7 @@ TEST_F(DemonstrationSite, eventNumbersSuitTheirTypes) {
   }
 }
 
-TEST_F(DemonstrationSite, hasAboutThreeHundredEventsInThirteenCategories) {
+TEST_F(DemonstrationSite, HasAboutThreeHundredEventsInThirteenCategories) {
   std::int64_t events = 0;
   for (const site::Table& table : site::siteSchema().tables()) {
     if (table.column("DefaultDescription")) events += count(table.name);
@@ -127,14 +127,14 @@ TEST_F(DemonstrationSite, hasAboutThreeHundredEventsInThirteenCategories) {
   EXPECT_EQ(column("select FilterType from TA_EventFilters order by FilterIndex").size(), 13U);
 }
 
-TEST_F(DemonstrationSite, someEventsAreCustomisedAndSomeAreUndefined) {
+TEST_F(DemonstrationSite, SomeEventsAreCustomisedAndSomeAreUndefined) {
   EXPECT_FALSE(column("select Description from AlarmEvents where Description is not null").empty());
   EXPECT_FALSE(column("select Description from ExternalEvents where Description = ''").empty());
   EXPECT_THAT(column("select DefaultDescription from AlarmEvents"),
               AllOf(Contains("Undefined alarm 30"), Contains("UNDEFINED alarm 39")));
 }
 
-TEST_F(DemonstrationSite, returnToNormalPairsExistOnBothSides) {
+TEST_F(DemonstrationSite, ReturnToNormalPairsExistOnBothSides) {
   const std::vector<int> external = numbers("select EventId from ExternalEvents");
   for (const char* side : {"AlarmID", "ExternalEventId"}) {
     EXPECT_THAT(external,
@@ -147,7 +147,7 @@ TEST_F(DemonstrationSite, returnToNormalPairsExistOnBothSides) {
   }
 }
 
-TEST_F(DemonstrationSite, triggersOfBothKindsExistWithTheirOddCases) {
+TEST_F(DemonstrationSite, TriggersOfBothKindsExistWithTheirOddCases) {
   EXPECT_GE(count("CCTV_TriggerAction") + count("IntegratedDeviceTriggers"), 12);
   EXPECT_THAT(numbers("select SwitcherID from CCTV_TriggerAction where SwitcherID not in "
                       "(select SwitcherID from CCTV_Switchers)"),
@@ -157,12 +157,12 @@ TEST_F(DemonstrationSite, triggersOfBothKindsExistWithTheirOddCases) {
               testing::SizeIs(1));
 }
 
-TEST_F(DemonstrationSite, oneRecorderIsOfVendorTypeFour) {
+TEST_F(DemonstrationSite, OneRecorderIsOfVendorTypeFour) {
   EXPECT_THAT(column("select DVRName from DVR_Config where DVRVendorID = 4"), testing::SizeIs(1));
   EXPECT_EQ(count("DVR_Config"), 3);
 }
 
-TEST_F(DemonstrationSite, theAddInIsRegistered) {
+TEST_F(DemonstrationSite, TheAddInIsRegistered) {
   EXPECT_EQ(one("SELECT DISTINCT AddInID FROM ApplicatrionAddIns WHERE "
                 "AddInObjectName=N'MorvatPelorin'"),
             "3");

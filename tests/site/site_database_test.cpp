@@ -90,7 +90,7 @@ class SiteFile : public testing::Test {
   fs::path folder_ = fs::temp_directory_path() / ("pelorin_site_" + std::to_string(getpid()));
 };
 
-TEST_F(SiteFile, keepsWhatWasWritten) {
+TEST_F(SiteFile, KeepsWhatWasWritten) {
   const std::string file = path("site.db");
   SiteDatabase::create(file, demonstrationSite).connect()->execute("exec TA_DeleteTrigger 1");
   const auto connection = SiteDatabase::open(file).connect();
@@ -99,13 +99,13 @@ TEST_F(SiteFile, keepsWhatWasWritten) {
   EXPECT_EQ(rows.int32(0), 6);
 }
 
-TEST_F(SiteFile, leavesOneFileWhenItIsClosed) {
+TEST_F(SiteFile, LeavesOneFileWhenItIsClosed) {
   SiteDatabase::create(path("site.db"), demonstrationSite);
   SiteDatabase::open(path("site.db")).connect()->execute("exec TA_DeleteTrigger 1");
   EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 1);
 }
 
-TEST(SiteInMemory, aCopyHoldsTheSameRowsAndGoesItsOwnWay) {
+TEST(SiteInMemory, ACopyHoldsTheSameRowsAndGoesItsOwnWay) {
   const SiteDatabase first = SiteDatabase::inMemory(demonstrationSite);
   const SiteDatabase second = first.copyInMemory();
   const auto triggers = [](const SiteDatabase& site) {
@@ -121,64 +121,64 @@ TEST(SiteInMemory, aCopyHoldsTheSameRowsAndGoesItsOwnWay) {
   EXPECT_EQ(triggers(first), before);
 }
 
-TEST_F(SiteFile, takesAPathBeyondAscii) {
+TEST_F(SiteFile, TakesAPathBeyondAscii) {
   const std::string file = path("Geb\xC3\xA4ude \xE6\x89\x89.site");
   SiteDatabase::create(file, emptySite);
   EXPECT_TRUE(fs::exists(file));
   EXPECT_EQ(openError(file), "");
 }
 
-TEST_F(SiteFile, anExistingFileIsNeverOverwritten) {
+TEST_F(SiteFile, AnExistingFileIsNeverOverwritten) {
   const std::string file = write("notes.txt", "do not lose me");
   EXPECT_EQ(errorOf([&] { SiteDatabase::create(file, emptySite); }),
             "The file '" + file + "' exists already; it is left as it is.");
   EXPECT_EQ(content(file), "do not lose me");
 }
 
-TEST_F(SiteFile, aSiteThatExistsIsNotFilledAgain) {
+TEST_F(SiteFile, ASiteThatExistsIsNotFilledAgain) {
   const std::string file = path("site.db");
   SiteDatabase::create(file, demonstrationSite);
   EXPECT_THAT(errorOf([&] { SiteDatabase::create(file, emptySite); }), HasSubstr("exists already"));
   EXPECT_EQ(openError(file), "");
 }
 
-TEST_F(SiteFile, aFailedCreationLeavesNoFile) {
+TEST_F(SiteFile, AFailedCreationLeavesNoFile) {
   const std::string file = path("site.db");
   const auto broken = [](site::RowSink&) { throw RunTimeError(1, "no rows today"); };
   EXPECT_EQ(errorOf([&] { SiteDatabase::create(file, broken); }), "no rows today");
   EXPECT_TRUE(fs::is_empty(folder_));
 }
 
-TEST_F(SiteFile, creationInAMissingFolderFails) {
+TEST_F(SiteFile, CreationInAMissingFolderFails) {
   const std::string file = path("nowhere/site.db");
   EXPECT_EQ(errorOf([&] { SiteDatabase::create(file, emptySite); }),
             "The database file '" + file + "' cannot be opened.");
 }
 
-TEST_F(SiteFile, aMissingFileIsNamedAndNotMade) {
+TEST_F(SiteFile, AMissingFileIsNamedAndNotMade) {
   const std::string file = path("missing.db");
   EXPECT_EQ(openError(file), "There is no database file '" + file + "'.");
   EXPECT_FALSE(fs::exists(file));
 }
 
-TEST_F(SiteFile, aFolderIsNoDatabase) {
+TEST_F(SiteFile, AFolderIsNoDatabase) {
   EXPECT_EQ(openError(folder_.string()), "'" + folder_.string() + "' is not a file.");
 }
 
-TEST_F(SiteFile, aTextFileIsNoDatabase) {
+TEST_F(SiteFile, ATextFileIsNoDatabase) {
   const std::string text(4096, 'x');
   const std::string file = write("text.db", text);
   EXPECT_EQ(openError(file), "The file '" + file + "' is not a database.");
   EXPECT_EQ(content(file), text);
 }
 
-TEST_F(SiteFile, anEmptyFileIsNoSiteDatabase) {
+TEST_F(SiteFile, AnEmptyFileIsNoSiteDatabase) {
   const std::string file = write("empty.db", "");
   EXPECT_EQ(openError(file), "'" + file + "' is not a site database.");
   EXPECT_EQ(content(file), "");
 }
 
-TEST_F(SiteFile, anotherProgramsDatabaseIsNotASiteDatabase) {
+TEST_F(SiteFile, AnotherProgramsDatabaseIsNotASiteDatabase) {
   const std::string file = path("other.db");
   site::Engine::open(file, site::Engine::Mode::Create)->script("create table t (a int)");
   const std::string before = content(file);
@@ -186,7 +186,7 @@ TEST_F(SiteFile, anotherProgramsDatabaseIsNotASiteDatabase) {
   EXPECT_EQ(content(file), before);
 }
 
-TEST_F(SiteFile, aDatabaseOfANewerVersionIsRefused) {
+TEST_F(SiteFile, ADatabaseOfANewerVersionIsRefused) {
   const std::string file = path("newer.db");
   SiteDatabase::create(file, emptySite);
   site::Engine::open(file, site::Engine::Mode::Open)->script("pragma user_version = 99");
@@ -195,7 +195,7 @@ TEST_F(SiteFile, aDatabaseOfANewerVersionIsRefused) {
 }
 
 // Whoever gives somebody a file must not be able to have programs of his own run by it.
-TEST_F(SiteFile, whatAForeignHandPutIntoTheSchemaIsNotRun) {
+TEST_F(SiteFile, WhatAForeignHandPutIntoTheSchemaIsNotRun) {
   const std::string file = path("site.db");
   SiteDatabase::create(file, demonstrationSite);
   ForeignHand(file).script(
@@ -209,7 +209,7 @@ TEST_F(SiteFile, whatAForeignHandPutIntoTheSchemaIsNotRun) {
               HasSubstr("access to view \"Servers\" prohibited"));
 }
 
-TEST_F(SiteFile, aFunctionInTheSchemaThatReachesBeyondTheFileIsRefused) {
+TEST_F(SiteFile, AFunctionInTheSchemaThatReachesBeyondTheFileIsRefused) {
   const std::string file = path("site.db");
   SiteDatabase::create(file, demonstrationSite);
   ForeignHand(file).script(
@@ -223,7 +223,7 @@ TEST_F(SiteFile, aFunctionInTheSchemaThatReachesBeyondTheFileIsRefused) {
               HasSubstr("unsafe use of reach_out()"));
 }
 
-TEST_F(SiteFile, aDamagedFileIsReportedWhenItIsRead) {
+TEST_F(SiteFile, ADamagedFileIsReportedWhenItIsRead) {
   const std::string file = path("damaged.db");
   SiteDatabase::create(file, demonstrationSite);
   std::string bytes = content(file);
@@ -233,7 +233,7 @@ TEST_F(SiteFile, aDamagedFileIsReportedWhenItIsRead) {
             "The database file '" + file + "' is damaged.");
 }
 
-TEST_F(SiteFile, aLockedFileIsReportedAfterAShortWait) {
+TEST_F(SiteFile, ALockedFileIsReportedAfterAShortWait) {
   const std::string file = path("site.db");
   SiteDatabase::create(file, emptySite);
   const auto other = site::Engine::open(file, site::Engine::Mode::Open);
@@ -241,7 +241,7 @@ TEST_F(SiteFile, aLockedFileIsReportedAfterAShortWait) {
   EXPECT_EQ(openError(file), "The database file '" + file + "' is in use by another program.");
 }
 
-TEST_F(SiteFile, aFileLockedLaterFailsTheWriteAndStaysUsable) {
+TEST_F(SiteFile, AFileLockedLaterFailsTheWriteAndStaysUsable) {
   const std::string file = path("site.db");
   const auto connection = SiteDatabase::create(file, demonstrationSite).connect();
   const auto other = site::Engine::open(file, site::Engine::Mode::Open);
@@ -254,7 +254,7 @@ TEST_F(SiteFile, aFileLockedLaterFailsTheWriteAndStaysUsable) {
   EXPECT_EQ(errorOf([&] { connection->execute("exec TA_DeleteTrigger 1"); }), "");
 }
 
-TEST_F(SiteFile, twoProgramsCanUseOneSite) {
+TEST_F(SiteFile, TwoProgramsCanUseOneSite) {
   const std::string file = path("site.db");
   const SiteDatabase first = SiteDatabase::create(file, demonstrationSite);
   const SiteDatabase second = SiteDatabase::open(file);
@@ -264,7 +264,7 @@ TEST_F(SiteFile, twoProgramsCanUseOneSite) {
   EXPECT_FALSE(rows.next());
 }
 
-TEST_F(SiteFile, aReadOnlyFileIsReported) {
+TEST_F(SiteFile, AReadOnlyFileIsReported) {
   fs::permissions(folder_, fs::perms::others_all, fs::perm_options::add);
   const std::string file = path("site.db");
   SiteDatabase::create(file, emptySite);
@@ -274,7 +274,7 @@ TEST_F(SiteFile, aReadOnlyFileIsReported) {
   EXPECT_EQ(openError(file), "The database file '" + file + "' is read-only.");
 }
 
-TEST_F(SiteFile, theAuditLogStaysInTheFile) {
+TEST_F(SiteFile, TheAuditLogStaysInTheFile) {
   const std::string file = path("site.db");
   {
     AuditLog log = SiteDatabase::create(file, emptySite).auditLog();
@@ -292,7 +292,7 @@ TEST_F(SiteFile, theAuditLogStaysInTheFile) {
   EXPECT_EQ(records[1].description, "O'Brien \xC3\xA4");
 }
 
-TEST_F(SiteFile, theAuditLogCanBeReadFromANumberOn) {
+TEST_F(SiteFile, TheAuditLogCanBeReadFromANumberOn) {
   const SiteDatabase site = SiteDatabase::inMemory(emptySite);
   AuditLog log = site.auditLog();
   for (int at = 0; at < 3; ++at) log.append({0, "", "Add", "TriggerAction", at, "", 1184});
@@ -301,7 +301,7 @@ TEST_F(SiteFile, theAuditLogCanBeReadFromANumberOn) {
   EXPECT_EQ(records[0].objectId, 2);
 }
 
-TEST_F(SiteFile, anEmptySiteHasAllTablesAndNoRows) {
+TEST_F(SiteFile, AnEmptySiteHasAllTablesAndNoRows) {
   const auto connection = SiteDatabase::inMemory(emptySite).connect();
   for (const char* table : {"CCTV_TriggerAction", "TA_EventFilters", "Servers", "CSR_Points"}) {
     EXPECT_THAT(allRows(*connection, std::string("select * from ") + table, {}), IsEmpty());

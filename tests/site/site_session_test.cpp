@@ -25,7 +25,7 @@ void PrintTo(const WrongStatement& statement, std::ostream* out) {
 
 class FailsAsOnTheServer : public SiteTest, public testing::WithParamInterface<WrongStatement> {};
 
-TEST_P(FailsAsOnTheServer, statement) {
+TEST_P(FailsAsOnTheServer, Statement) {
   const auto& [name, sql, description, number] = GetParam();
   try {
     connection_->execute(sql);
@@ -100,40 +100,40 @@ std::string insertWithAddress(const std::string& address) {
   return "exec CCTV_Insert_TA 1, 1, 1, 0, 1, '" + address + "', 1, '1', 'x', 0, True";
 }
 
-TEST_F(Session, aTextOfTheFullLengthFitsAndOneMoreFails) {
+TEST_F(Session, ATextOfTheFullLengthFitsAndOneMoreFails) {
   EXPECT_EQ(failure(insertWithAddress(std::string(128, 'a'))), "");
   EXPECT_EQ(failure(insertWithAddress(std::string(129, 'a'))),
             "String or binary data would be truncated.");
 }
 
-TEST_F(Session, lengthIsCountedInUtf16Units) {
+TEST_F(Session, LengthIsCountedInUtf16Units) {
   std::string pairs;
   for (int at = 0; at < 64; ++at) pairs += "\xF0\x9F\x9A\xAA";
   EXPECT_EQ(failure(insertWithAddress(pairs)), "");
   EXPECT_EQ(failure(insertWithAddress(pairs + "a")), "String or binary data would be truncated.");
 }
 
-TEST_F(Session, aRefusedCallWritesNothing) {
+TEST_F(Session, ARefusedCallWritesNothing) {
   const std::int64_t before = count("CCTV_TriggerAction");
   failure(insertWithAddress(std::string(129, 'a')));
   failure(insertWithAddress("Drivers' lounge"));
   EXPECT_EQ(count("CCTV_TriggerAction"), before);
 }
 
-TEST_F(Session, unicodeTextComesBackAsItWent) {
+TEST_F(Session, UnicodeTextComesBackAsItWent) {
   const std::string text = "T\xC3\xBCr-\xE6\x89\x89-\xF0\x9F\x9A\xAA";
   connection_->execute(insertWithAddress(text));
   EXPECT_EQ(one("select T_Address from CCTV_TriggerAction where T_Address = N'" + text + "'"),
             text);
 }
 
-TEST_F(Session, doubledQuoteIsOneQuote) {
+TEST_F(Session, DoubledQuoteIsOneQuote) {
   connection_->execute(insertWithAddress("O''Brien"));
   EXPECT_EQ(one("select T_Address from CCTV_TriggerAction where T_Address = 'O''Brien'"),
             "O'Brien");
 }
 
-TEST_F(Session, valuesKeepTheirKinds) {
+TEST_F(Session, ValuesKeepTheirKinds) {
   RecordSet rows = connection_->open(
       "select OpenViewer, T_EventID, T_EventText from CCTV_TriggerAction where TA_ID = 1");
   ASSERT_TRUE(rows.next());
@@ -145,7 +145,7 @@ TEST_F(Session, valuesKeepTheirKinds) {
   EXPECT_EQ(action.value("RecordRate"), Value(15.0));
 }
 
-TEST_F(Session, nullsReadAsNull) {
+TEST_F(Session, NullsReadAsNull) {
   RecordSet rows = connection_->open("select PortStyle, Address from ServerPorts where PortID = 5");
   ASSERT_TRUE(rows.next());
   EXPECT_TRUE(isNull(rows.value("PortStyle")));
@@ -153,11 +153,11 @@ TEST_F(Session, nullsReadAsNull) {
   EXPECT_FALSE(isNull(rows.value("Address")));
 }
 
-TEST_F(Session, tableAndColumnNamesDisregardCase) {
+TEST_F(Session, TableAndColumnNamesDisregardCase) {
   EXPECT_EQ(one("SELECT switcherID FROM cctv_switchers WHERE SWITCHERID =1"), "1");
 }
 
-TEST_F(Session, textIsComparedAndOrderedWithoutRegardToCase) {
+TEST_F(Session, TextIsComparedAndOrderedWithoutRegardToCase) {
   EXPECT_EQ(one("select ClassName from integratedDeviceclasses "
                 "where ClassAddressAbreviation = 'csr'"),
             "Central Station Receiver");
@@ -168,13 +168,13 @@ TEST_F(Session, textIsComparedAndOrderedWithoutRegardToCase) {
                           ElementsAre("3")));
 }
 
-TEST_F(Session, aComputedColumnHasNoName) {
+TEST_F(Session, AComputedColumnHasNoName) {
   const SiteResult result =
       site_.session()->run("select count(EventID), max(EventID) as M from Zorn_EventDefinitions");
   EXPECT_THAT(result.rows->columns(), ElementsAre("", "M"));
 }
 
-TEST_F(Session, severalResultsCanBeOpenAtOnce) {
+TEST_F(Session, SeveralResultsCanBeOpenAtOnce) {
   RecordSet outer = connection_->open("select ServerID from Servers");
   int ports = 0;
   while (outer.next()) {
@@ -185,20 +185,20 @@ TEST_F(Session, severalResultsCanBeOpenAtOnce) {
   EXPECT_EQ(ports, 5);
 }
 
-TEST_F(Session, rowsAffectedAreCounted) {
+TEST_F(Session, RowsAffectedAreCounted) {
   const auto& session = site_.session();
   EXPECT_EQ(session->run("delete from CCTV_TriggerAction where SwitcherID = 1").recordsAffected, 5);
   EXPECT_EQ(session->run("exec TA_DeleteTrigger 4711").recordsAffected, 0);
   EXPECT_EQ(session->run("select * from Servers").recordsAffected, -1);
 }
 
-TEST_F(Session, aStatementRunsWhenItIsOpenedEvenIfNobodyFetches) {
+TEST_F(Session, AStatementRunsWhenItIsOpenedEvenIfNobodyFetches) {
   { RecordSet ignored = connection_->open("select * from Servers"); }
   EXPECT_THROW(connection_->open("exec TA_DeleteTrigger 1"), RunTimeError);
   EXPECT_EQ(one("select TriggerID from IntegratedDeviceTriggers where TriggerID = 1"), "(no row)");
 }
 
-TEST_F(Session, anOpenResultOutlivesItsDatabase) {
+TEST_F(Session, AnOpenResultOutlivesItsDatabase) {
   auto site = std::make_unique<SiteDatabase>(SiteDatabase::inMemory(demonstrationSite));
   std::unique_ptr<Connection> connection = site->connect();
   RecordSet rows = connection->open("select * from Servers");
@@ -208,7 +208,7 @@ TEST_F(Session, anOpenResultOutlivesItsDatabase) {
   EXPECT_EQ(rows.text("Server_Name"), "HeadOffice");
 }
 
-TEST_F(Session, theObserverHearsEveryStatementAndItsFailure) {
+TEST_F(Session, TheObserverHearsEveryStatementAndItsFailure) {
   std::vector<std::string> heard;
   site_.session()->observe([&heard](const StatementRecord& record) {
     EXPECT_GE(record.took.count(), 0);
@@ -225,14 +225,14 @@ TEST_F(Session, theObserverHearsEveryStatementAndItsFailure) {
                                  "{ call TA_DeleteTrigger(4711) }"));
 }
 
-TEST_F(Session, aCommandWithTooFewParametersFails) {
+TEST_F(Session, ACommandWithTooFewParametersFails) {
   ProcedureCall call{"DVR_AddAction",
                      {{"DVRActionID", ParameterType::Integer, ParameterDirection::Output, Null{}}}};
   EXPECT_THROW(connection_->execute(call), RunTimeError);
   EXPECT_EQ(count("DVR_TriggerActions"), 5);
 }
 
-TEST_F(Session, aLongStatementRuns) {
+TEST_F(Session, ALongStatementRuns) {
   std::string sql = "select ID from DVR_Config where ID in (0";
   for (int at = 10; at < 20000; ++at) sql += ", " + std::to_string(at);
   EXPECT_EQ(failure(sql + ")"), "");

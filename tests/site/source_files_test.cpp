@@ -31,7 +31,7 @@ std::string schemaError(std::string_view text) {
   });
 }
 
-TEST(TableDescription, readsTablesColumnsKeysAndIndexes) {
+TEST(TableDescription, ReadsTablesColumnsKeysAndIndexes) {
   Schema schema;
   schema.read(
       "# note\ntable T  What it is for.\n  A int identity\n  B nvarchar(20) required\n"
@@ -48,7 +48,7 @@ TEST(TableDescription, readsTablesColumnsKeysAndIndexes) {
   EXPECT_FALSE(schema.table("U"));
 }
 
-TEST(TableDescription, refusesWhatItDoesNotUnderstand) {
+TEST(TableDescription, RefusesWhatItDoesNotUnderstand) {
   EXPECT_THAT(schemaError("  A int\n"), HasSubstr("A int"));
   EXPECT_THAT(schemaError("tabel T\n"), HasSubstr("tabel T"));
   EXPECT_THAT(schemaError("table T\n  A money\n"), HasSubstr("money"));
@@ -57,7 +57,7 @@ TEST(TableDescription, refusesWhatItDoesNotUnderstand) {
   EXPECT_THAT(schemaError("table T\n  A nvarchar(0)\n"), HasSubstr("nvarchar(0)"));
 }
 
-TEST(TableDescription, everyTableHasAPurposeAndARequiredKey) {
+TEST(TableDescription, EveryTableHasAPurposeAndARequiredKey) {
   for (const Table& table : siteSchema().tables()) {
     EXPECT_FALSE(table.purpose.empty()) << table.name;
     ASSERT_FALSE(table.key.empty()) << table.name;
@@ -67,7 +67,7 @@ TEST(TableDescription, everyTableHasAPurposeAndARequiredKey) {
   }
 }
 
-TEST(TableDescription, columnsThatAreReadByPositionComeFirst) {
+TEST(TableDescription, ColumnsThatAreReadByPositionComeFirst) {
   const std::vector<std::pair<const char*, const char*>> first{{"ApplicatrionAddIns", "AddInID"},
                                                                {"CCTV_Cameras", "ID"},
                                                                {"DVR_Config", "ID"},
@@ -84,7 +84,7 @@ TEST(TableDescription, columnsThatAreReadByPositionComeFirst) {
   }
 }
 
-TEST(EmbeddedDefinition, namesAreQuotedAndTextsDisregardCase) {
+TEST(EmbeddedDefinition, NamesAreQuotedAndTextsDisregardCase) {
   Schema schema;
   schema.read("table T\n  A int identity\n  Index nvarchar(20) required\n  key A\n  index Index\n");
   EXPECT_EQ(embeddedDefinition(*schema.table("T")),
@@ -93,7 +93,7 @@ TEST(EmbeddedDefinition, namesAreQuotedAndTextsDisregardCase) {
             "create index \"IX_T_Index\" on \"T\" (\"Index\");");
 }
 
-TEST(ProcedureFile, readsHeaderAndBody) {
+TEST(ProcedureFile, ReadsHeaderAndBody) {
   const Procedure procedure =
       readProcedure("P",
                     "-- What it does.\n-- parameter @a int\n-- parameter @b nvarchar(5) output\n"
@@ -108,14 +108,14 @@ TEST(ProcedureFile, readsHeaderAndBody) {
   EXPECT_EQ(procedure.embeddedBody, procedure.serverBody);
 }
 
-TEST(ProcedureFile, engineLinesPartTheBodies) {
+TEST(ProcedureFile, EngineLinesPartTheBodies) {
   const Procedure procedure =
       readProcedure("P", "-- Purpose.\n-- engine server\na\n-- engine embedded\nb\n");
   EXPECT_EQ(procedure.serverBody, "a\n");
   EXPECT_EQ(procedure.embeddedBody, "b\n");
 }
 
-TEST(ProcedureFile, refusesWhatItDoesNotUnderstand) {
+TEST(ProcedureFile, RefusesWhatItDoesNotUnderstand) {
   EXPECT_THROW(readProcedure("P", "-- Purpose.\n-- more purpose\n"), RunTimeError);
   EXPECT_THROW(readProcedure("P", "-- parameter a int\n"), RunTimeError);
   EXPECT_THROW(readProcedure("P", "-- parameter @a int inout\n"), RunTimeError);
@@ -142,7 +142,7 @@ std::string dataError(std::string_view text) {
   });
 }
 
-TEST(DataFile, cellsTakeTheTypesOfTheirColumns) {
+TEST(DataFile, CellsTakeTheTypesOfTheirColumns) {
   Seen seen;
   readRows("table Doors\nDoorID | DoorName | Active\n1 | Main  door | 1\n2 | null | 0\n3 | | 1\n",
            seen);
@@ -153,7 +153,7 @@ TEST(DataFile, cellsTakeTheTypesOfTheirColumns) {
   EXPECT_EQ(seen.rows[2], (Row{std::int64_t{3}, std::string(), true}));
 }
 
-TEST(DataFile, refusesWhatDoesNotFitTheTable) {
+TEST(DataFile, RefusesWhatDoesNotFitTheTable) {
   EXPECT_THAT(dataError("table Nothing\n"), HasSubstr("Nothing"));
   EXPECT_THAT(dataError("1 | 2\n"), HasSubstr("1 | 2"));
   EXPECT_THAT(dataError("table Doors\nDoorID | Colour\n"), HasSubstr("Colour"));
@@ -161,7 +161,7 @@ TEST(DataFile, refusesWhatDoesNotFitTheTable) {
   EXPECT_THAT(dataError("table Doors\nDoorID\nabc\n"), HasSubstr("converting"));
 }
 
-TEST(StatementFile, samplesReplaceTheirPlaces) {
+TEST(StatementFile, SamplesReplaceTheirPlaces) {
   const auto statements = readStatements(
       "statement S writes\n  \"do {a} and {a} \"\n  {a} = x y\nstatement T\n  \"t\"\n  columns A, "
       "#0\n");
@@ -171,7 +171,7 @@ TEST(StatementFile, samplesReplaceTheirPlaces) {
   EXPECT_THAT(statements[1].columns, ElementsAre("A", "#0"));
 }
 
-TEST(StatementFile, refusesWhatItDoesNotUnderstand) {
+TEST(StatementFile, RefusesWhatItDoesNotUnderstand) {
   EXPECT_THROW(readStatements("  \"orphan\"\n"), RunTimeError);
   EXPECT_THROW(readStatements("statement S\n  whatever\n"), RunTimeError);
 }

@@ -17,7 +17,7 @@ void expectColumn(const RecordSet& records, const std::string& column) {
   }
 }
 
-TEST_P(EveryStatement, runsAndGivesItsColumns) {
+TEST_P(EveryStatement, RunsAndGivesItsColumns) {
   const SiteStatement& statement = GetParam();
   if (statement.writes) {
     connection_->execute(statement.text);
@@ -37,7 +37,7 @@ std::string statementName(const testing::TestParamInfo<SiteStatement>& info) {
 INSTANTIATE_TEST_SUITE_P(Component, EveryStatement, testing::ValuesIn(site::siteStatements()),
                          statementName);
 
-TEST(StatementTable, everyPlaceHasASample) {
+TEST(StatementTable, EveryPlaceHasASample) {
   for (const SiteStatement& statement : site::siteStatements()) {
     EXPECT_EQ(statement.text.find('{'), std::string::npos) << statement.name;
     EXPECT_EQ(statement.writes, statement.columns.empty()) << statement.name;

@@ -26,13 +26,13 @@ void expectEqual(const std::string& left, const std::string& right) {
   EXPECT_EQ(compareTexts(right, left), 0) << right << " and " << left;
 }
 
-TEST(TextOrder, blanksAtTheEndCountForNothingAndOthersDo) {
+TEST(TextOrder, BlanksAtTheEndCountForNothingAndOthersDo) {
   expectEqual("Door", "Door  ");
   expectEqual("", "   ");
   expectRising({"", " Door", "Do or", "Door"});
 }
 
-TEST(TextOrder, caseCountsForNothingInAnyAlphabet) {
+TEST(TextOrder, CaseCountsForNothingInAnyAlphabet) {
   expectEqual("DOOR 1", "door 1");
   expectEqual("\xC3\x84\xC3\x96\xC3\x9C", "\xC3\xA4\xC3\xB6\xC3\xBC");
   expectEqual("\xC5\xBD\xC5\xB8", "\xC5\xBE\xC3\xBF");
@@ -44,17 +44,17 @@ TEST(TextOrder, caseCountsForNothingInAnyAlphabet) {
   expectEqual("\xD0\x81", "\xD1\x91");
 }
 
-TEST(TextOrder, anAccentTellsApartWhatIsEqualOtherwise) {
+TEST(TextOrder, AnAccentTellsApartWhatIsEqualOtherwise) {
   expectRising({"a", "\xC3\xA1", "\xC3\xA0", "\xC3\xA2", "\xC3\xA4", "\xC3\xA3", "\xC3\xA5", "b"});
   expectRising({"cote", "cot\xC3\xA9", "c\xC3\xB4te", "c\xC3\xB4t\xC3\xA9", "coter"});
   expectRising({"Muller", "M\xC3\xBCller", "Mullers", "N"});
 }
 
-TEST(TextOrder, anAccentMayStandByItself) {
+TEST(TextOrder, AnAccentMayStandByItself) {
   expectEqual("e\xCC\x81t\xC3\xA9", "\xC3\xA9te\xCC\x81");
 }
 
-TEST(TextOrder, someLettersStandForTwo) {
+TEST(TextOrder, SomeLettersStandForTwo) {
   expectEqual(
       "Stra\xC3\x9F"
       "e",
@@ -63,15 +63,15 @@ TEST(TextOrder, someLettersStandForTwo) {
   expectRising({"od", "\xC5\x93", "of"});
 }
 
-TEST(TextOrder, signsComeBeforeDigitsAndDigitsBeforeLetters) {
+TEST(TextOrder, SignsComeBeforeDigitsAndDigitsBeforeLetters) {
   expectRising({" x", "_x", "~x", "0", "9", "a", "Z", "\xCE\xB1", "\xD0\xB0", "\xE9\x96\x80"});
 }
 
-TEST(TextOrder, wideFormsAreThePlainOnes) {
+TEST(TextOrder, WideFormsAreThePlainOnes) {
   expectEqual("\xEF\xBC\xA1\xEF\xBC\x91", "a1");
 }
 
-TEST(TextOrder, charactersBeyondTheFirstPlaneAndCutOnesHaveAPlace) {
+TEST(TextOrder, CharactersBeyondTheFirstPlaneAndCutOnesHaveAPlace) {
   expectRising({"a", "\xF0\x9F\x9A\xAA", "\xF0\x9F\x9A\xAB"});
   EXPECT_NE(compareTexts("cut \xE2\x82", "cut"), 0);
   EXPECT_NE(compareTexts(std::string("a\0b", 3), "a"), 0);
@@ -79,7 +79,7 @@ TEST(TextOrder, charactersBeyondTheFirstPlaneAndCutOnesHaveAPlace) {
 
 class TextsOfASite : public SiteTest {};
 
-TEST_F(TextsOfASite, areFoundAsAServerFindsThem) {
+TEST_F(TextsOfASite, AreFoundAsAServerFindsThem) {
   connection_->execute(
       "insert into DVR_ViewGroups (ID, Description) values (90, 'T\xC3\xBCr \xC3\x84u\xC3\x9F"
       "ere  ')");
@@ -90,7 +90,7 @@ TEST_F(TextsOfASite, areFoundAsAServerFindsThem) {
             "3");
 }
 
-TEST_F(TextsOfASite, areOrderedAsAServerOrdersThem) {
+TEST_F(TextsOfASite, AreOrderedAsAServerOrdersThem) {
   connection_->execute("delete from DVR_ViewGroups");
   connection_->execute(
       "insert into DVR_ViewGroups (ID, Description) values (1, 'zebra'), (2, '\xC3\xA4pfel'), "

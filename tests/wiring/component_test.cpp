@@ -18,24 +18,24 @@ using ::testing::StartsWith;
 using RaiseForm = ComponentTest;
 using Windows = ComponentTest;
 
-TEST_F(RaiseForm, asksForTheRightToUseTheComponent) {
+TEST_F(RaiseForm, AsksForTheRightToUseTheComponent) {
   component.RaiseForm(hostWindow);
   EXPECT_THAT(journal.lines(), Contains("host: Security(91, Pelorin - Use)"));
 }
 
-TEST_F(RaiseForm, showsTheSummaryOwnedByTheHost) {
+TEST_F(RaiseForm, ShowsTheSummaryOwnedByTheHost) {
   component.RaiseForm(hostWindow);
   EXPECT_THAT(openForms(), ElementsAre("frmTASummary"));
   EXPECT_EQ(screen.owners["frmTASummary"], hostWindow);
   EXPECT_THAT(screen.boxes, IsEmpty());
 }
 
-TEST_F(RaiseForm, showsTheSummaryWithoutOwnerWhenTheHostGaveNone) {
+TEST_F(RaiseForm, ShowsTheSummaryWithoutOwnerWhenTheHostGaveNone) {
   component.RaiseForm(0);
   EXPECT_EQ(screen.owners["frmTASummary"], 0U);
 }
 
-TEST_F(RaiseForm, refusedShowsText3575AndNoWindow) {
+TEST_F(RaiseForm, RefusedShowsText3575AndNoWindow) {
   services->permitted = false;
   services->texts[3575] = "You may not use this.";
   component.RaiseForm(hostWindow);
@@ -45,35 +45,35 @@ TEST_F(RaiseForm, refusedShowsText3575AndNoWindow) {
   EXPECT_THAT(openForms(), IsEmpty());
 }
 
-TEST_F(RaiseForm, refusedShowsTheReportAloneWhenTheTextCannotBeHad) {
+TEST_F(RaiseForm, RefusedShowsTheReportAloneWhenTheTextCannotBeHad) {
   services->permitted = false;
   services->failing = {"GetResourceString"};
   component.RaiseForm(hostWindow);
   EXPECT_THAT(screen.boxTexts(), ElementsAre(StartsWith("MPublic: GRS: Line: ")));
 }
 
-TEST_F(RaiseForm, refusedShowsTheEmptyTextThatTheHostAnswers) {
+TEST_F(RaiseForm, RefusedShowsTheEmptyTextThatTheHostAnswers) {
   services->permitted = false;
   services->texts[3575] = "";
   component.RaiseForm(hostWindow);
   EXPECT_THAT(screen.boxTexts(), ElementsAre(""));
 }
 
-TEST_F(RaiseForm, showsTheHourglassDuringThePermissionCheck) {
+TEST_F(RaiseForm, ShowsTheHourglassDuringThePermissionCheck) {
   services->permitted = false;
   component.RaiseForm(hostWindow);
   EXPECT_THAT(screen.pointers,
               ElementsAre(MousePointer::Hourglass, MousePointer::Default, MousePointer::Default));
 }
 
-TEST_F(RaiseForm, asksForText3575WithoutSubstitutions) {
+TEST_F(RaiseForm, AsksForText3575WithoutSubstitutions) {
   services->permitted = false;
   component.RaiseForm(hostWindow);
   EXPECT_THAT(journal.of("host: "),
               ElementsAre("Security(91, Pelorin - Use)", "GetResourceString(3575)"));
 }
 
-TEST_F(RaiseForm, endsWithTheDefaultPointerWhetherGrantedOrRefused) {
+TEST_F(RaiseForm, EndsWithTheDefaultPointerWhetherGrantedOrRefused) {
   for (const bool permitted : {true, false}) {
     services->permitted = permitted;
     screen.setMousePointer(MousePointer::Hourglass);
@@ -82,14 +82,14 @@ TEST_F(RaiseForm, endsWithTheDefaultPointerWhetherGrantedOrRefused) {
   }
 }
 
-TEST_F(RaiseForm, endsWithTheDefaultPointerAfterAnError) {
+TEST_F(RaiseForm, EndsWithTheDefaultPointerAfterAnError) {
   screen.windowsFail = true;
   screen.setMousePointer(MousePointer::Hourglass);
   EXPECT_THROW(component.RaiseForm(hostWindow), RunTimeError);
   EXPECT_EQ(screen.mousePointer(), MousePointer::Default);
 }
 
-TEST_F(RaiseForm, worksAgainAfterAWindowCouldNotBeMade) {
+TEST_F(RaiseForm, WorksAgainAfterAWindowCouldNotBeMade) {
   screen.windowsFail = true;
   EXPECT_THROW(component.RaiseForm(hostWindow), RunTimeError);
   EXPECT_THAT(openForms(), IsEmpty());
@@ -98,14 +98,14 @@ TEST_F(RaiseForm, worksAgainAfterAWindowCouldNotBeMade) {
   EXPECT_THAT(openForms(), ElementsAre("frmTASummary"));
 }
 
-TEST_F(RaiseForm, isNotShownWhenItsControlsCouldNotBeMade) {
+TEST_F(RaiseForm, IsNotShownWhenItsControlsCouldNotBeMade) {
   screen.controlsFail = true;
   EXPECT_THROW(component.RaiseForm(hostWindow), RunTimeError);
   EXPECT_THAT(openForms(), IsEmpty());
   EXPECT_THAT(screen.windowEvents, ElementsAre("create frmTASummary", "destroy frmTASummary"));
 }
 
-TEST_F(RaiseForm, twiceAsksAgainAndBringsTheSummaryToTheFrontWithoutReload) {
+TEST_F(RaiseForm, TwiceAsksAgainAndBringsTheSummaryToTheFrontWithoutReload) {
   component.RaiseForm(hostWindow);
   journal.clear();
   screen.windowEvents.clear();
@@ -115,7 +115,7 @@ TEST_F(RaiseForm, twiceAsksAgainAndBringsTheSummaryToTheFrontWithoutReload) {
   EXPECT_THAT(openForms(), SizeIs(1));
 }
 
-TEST_F(RaiseForm, refusedWhileTheSummaryIsOpenKeepsTheWindow) {
+TEST_F(RaiseForm, RefusedWhileTheSummaryIsOpenKeepsTheWindow) {
   component.RaiseForm(hostWindow);
   services->permitted = false;
   component.RaiseForm(hostWindow);
@@ -123,7 +123,7 @@ TEST_F(RaiseForm, refusedWhileTheSummaryIsOpenKeepsTheWindow) {
   EXPECT_THAT(openForms(), ElementsAre("frmTASummary"));
 }
 
-TEST_F(RaiseForm, withoutServicesReportsEachStepAndOpensNothing) {
+TEST_F(RaiseForm, WithoutServicesReportsEachStepAndOpensNothing) {
   component.module().setNTConnection(nullptr);
   component.RaiseForm(hostWindow);
   EXPECT_THAT(screen.boxTexts(), ElementsAre(StartsWith("Module1.MyPermissionGranted: Line: "),
@@ -132,7 +132,7 @@ TEST_F(RaiseForm, withoutServicesReportsEachStepAndOpensNothing) {
   EXPECT_THAT(openForms(), IsEmpty());
 }
 
-TEST_F(RaiseForm, withoutConnectionReportsAndShowsAnEmptySummary) {
+TEST_F(RaiseForm, WithoutConnectionReportsAndShowsAnEmptySummary) {
   component.module().setDBConnection(nullptr);
   component.RaiseForm(hostWindow);
   EXPECT_THAT(screen.boxTexts(), Contains(HasSubstr("Object variable or With block variable")));
@@ -141,14 +141,14 @@ TEST_F(RaiseForm, withoutConnectionReportsAndShowsAnEmptySummary) {
   EXPECT_FALSE(control<Button>("frmTASummary", "cmdDelete").enabled());
 }
 
-TEST_F(RaiseForm, makesItsOwnerTheOwnerOfBoxesUnlessItHasNone) {
+TEST_F(RaiseForm, MakesItsOwnerTheOwnerOfBoxesUnlessItHasNone) {
   component.RaiseForm(hostWindow);
   EXPECT_EQ(screen.hostWindow, hostWindow);
   component.RaiseForm(0);
   EXPECT_EQ(screen.hostWindow, hostWindow);
 }
 
-TEST_F(RaiseForm, usesTheServicesThatWereSetLast) {
+TEST_F(RaiseForm, UsesTheServicesThatWereSetLast) {
   Journal otherJournal;
   auto other = std::make_shared<RecordingServices>(otherJournal);
   other->permitted = false;
@@ -158,14 +158,14 @@ TEST_F(RaiseForm, usesTheServicesThatWereSetLast) {
   EXPECT_THAT(otherJournal.of("host: "), SizeIs(2));
 }
 
-TEST_F(Windows, editorIsOwnedByTheSummary) {
+TEST_F(Windows, EditorIsOwnedByTheSummary) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   EXPECT_THAT(openForms(), ElementsAre("frmTASummary", "frmTriggerAction"));
   EXPECT_EQ(screen.owners["frmTriggerAction"], form("frmTASummary").hwnd());
 }
 
-TEST_F(Windows, addWhileTheEditorIsOpenKeepsItsTrigger) {
+TEST_F(Windows, AddWhileTheEditorIsOpenKeepsItsTrigger) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(1)");
   const auto* editor = screen.open<frmTriggerAction>("frmTriggerAction");
@@ -179,7 +179,7 @@ TEST_F(Windows, addWhileTheEditorIsOpenKeepsItsTrigger) {
   EXPECT_THAT(screen.windowEvents, ElementsAre("raise frmTriggerAction"));
 }
 
-TEST_F(Windows, editorThatWasClosedOpensForTheNextTrigger) {
+TEST_F(Windows, EditorThatWasClosedOpensForTheNextTrigger) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(1)");
   press("frmTriggerAction", "cmdCancel");
@@ -207,14 +207,14 @@ struct Refusals : ComponentTest {
   }
 };
 
-TEST_F(Refusals, ofTheEditorAreReportedByTheSummarysButton) {
+TEST_F(Refusals, OfTheEditorAreReportedByTheSummarysButton) {
   component.RaiseForm(hostWindow);
   expectReported("frmTASummary", "cmdAddEdit(0)", "frmTASummary.cmdAddEdit_Click");
   press("frmTASummary", "cmdAddEdit(0)");
   EXPECT_THAT(openForms(), ElementsAre("frmTASummary", "frmTriggerAction"));
 }
 
-TEST_F(Refusals, ofThePickerAreReportedByTheEditorsButton) {
+TEST_F(Refusals, OfThePickerAreReportedByTheEditorsButton) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   expectReported("frmTriggerAction", "cmdAddLocation", "frmTriggerAction.cmdAddLocation_Click");
@@ -222,7 +222,7 @@ TEST_F(Refusals, ofThePickerAreReportedByTheEditorsButton) {
   EXPECT_THAT(openForms(), SizeIs(3));
 }
 
-TEST_F(Windows, pickerIsOwnedByTheEditor) {
+TEST_F(Windows, PickerIsOwnedByTheEditor) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   press("frmTriggerAction", "cmdAddLocation");
@@ -230,7 +230,7 @@ TEST_F(Windows, pickerIsOwnedByTheEditor) {
   EXPECT_EQ(screen.owners["FLocation"], form("frmTriggerAction").hwnd());
 }
 
-TEST_F(Windows, closedWindowsLeaveTheirOwnersActive) {
+TEST_F(Windows, ClosedWindowsLeaveTheirOwnersActive) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   press("frmTriggerAction", "cmdAddLocation");
@@ -244,7 +244,7 @@ TEST_F(Windows, closedWindowsLeaveTheirOwnersActive) {
   EXPECT_EQ(screen.activated["frmTASummary"], hostWindow);
 }
 
-TEST_F(Windows, pickerOpensInTheModeOfTheButton) {
+TEST_F(Windows, PickerOpensInTheModeOfTheButton) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   press("frmTriggerAction", "cmdAddLocation");
@@ -255,7 +255,7 @@ TEST_F(Windows, pickerOpensInTheModeOfTheButton) {
   EXPECT_EQ(control<Button>("FLocation", "cmdMain(1)").text(), "Cancel");
 }
 
-TEST_F(Windows, pickingWhileThePickerIsOpenBringsItToTheFront) {
+TEST_F(Windows, PickingWhileThePickerIsOpenBringsItToTheFront) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   press("frmTriggerAction", "cmdAddLocation");
@@ -265,7 +265,7 @@ TEST_F(Windows, pickingWhileThePickerIsOpenBringsItToTheFront) {
   EXPECT_THAT(openForms(), SizeIs(3));
 }
 
-TEST_F(Windows, closingTheSummaryUnloadsThePickerThenTheEditorAndNothingElse) {
+TEST_F(Windows, ClosingTheSummaryUnloadsThePickerThenTheEditorAndNothingElse) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   press("frmTriggerAction", "cmdAddLocation");
@@ -278,7 +278,7 @@ TEST_F(Windows, closingTheSummaryUnloadsThePickerThenTheEditorAndNothingElse) {
   EXPECT_THAT(openForms(), IsEmpty());
 }
 
-TEST_F(Windows, pickerGoesWithItsEditorWhileTheHostIsAskedForTheNewerHardware) {
+TEST_F(Windows, PickerGoesWithItsEditorWhileTheHostIsAskedForTheNewerHardware) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   services->duringCall = [this](const std::string&) {
@@ -292,7 +292,7 @@ TEST_F(Windows, pickerGoesWithItsEditorWhileTheHostIsAskedForTheNewerHardware) {
   EXPECT_EQ(screen.mousePointer(), MousePointer::Default);
 }
 
-TEST_F(Windows, pickerGoesWithItsEditorWhileAReportIsOnTheScreen) {
+TEST_F(Windows, PickerGoesWithItsEditorWhileAReportIsOnTheScreen) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   services->failing.insert("ZornIsVn8HardwareSupportEnabled");
@@ -304,7 +304,7 @@ TEST_F(Windows, pickerGoesWithItsEditorWhileAReportIsOnTheScreen) {
   EXPECT_THAT(screen.boxes, SizeIs(1));
 }
 
-TEST_F(Windows, everythingOpensAgainAfterEverythingWasClosed) {
+TEST_F(Windows, EverythingOpensAgainAfterEverythingWasClosed) {
   for (int round = 0; round < 3; ++round) {
     component.RaiseForm(hostWindow);
     press("frmTASummary", "cmdAddEdit(0)");
@@ -315,7 +315,7 @@ TEST_F(Windows, everythingOpensAgainAfterEverythingWasClosed) {
   }
 }
 
-TEST_F(Windows, saveReloadsTheSummary) {
+TEST_F(Windows, SaveReloadsTheSummary) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(1)");
   const int rows = grid().rows();
@@ -324,7 +324,7 @@ TEST_F(Windows, saveReloadsTheSummary) {
   EXPECT_EQ(grid().rows(), rows + 1);
 }
 
-TEST_F(Windows, unloadWithTheComponent) {
+TEST_F(Windows, UnloadWithTheComponent) {
   {
     Component other(screen, environment);
     other.module().setNTConnection(services);

@@ -16,11 +16,11 @@ struct TAManagerTest : ComponentTest {
   TAManagerMembers manager{entrance};
 };
 
-TEST_F(TAManagerTest, inDesignIsFalseOnTheFirstAndEveryLaterCall) {
+TEST_F(TAManagerTest, InDesignIsFalseOnTheFirstAndEveryLaterCall) {
   for (int call = 0; call < 100; ++call) EXPECT_FALSE(manager.InDesign());
 }
 
-TEST_F(TAManagerTest, plainMembersShowTheHourglassAndThenTheDefaultPointer) {
+TEST_F(TAManagerTest, PlainMembersShowTheHourglassAndThenTheDefaultPointer) {
   using Member = void (TAManagerMembers::*)() noexcept;
   for (const Member member : {&TAManagerMembers::Activate, &TAManagerMembers::Destroy,
                               &TAManagerMembers::Install, &TAManagerMembers::UnInstall}) {
@@ -31,13 +31,13 @@ TEST_F(TAManagerTest, plainMembersShowTheHourglassAndThenTheDefaultPointer) {
   EXPECT_THAT(journal.lines(), IsEmpty());
 }
 
-TEST_F(TAManagerTest, onStreamSetsTheDefaultPointerOnly) {
+TEST_F(TAManagerTest, OnStreamSetsTheDefaultPointerOnly) {
   manager.OnStream();
   EXPECT_THAT(screen.pointers, ElementsAre(MousePointer::Default));
   EXPECT_THAT(journal.lines(), IsEmpty());
 }
 
-TEST_F(TAManagerTest, errorOfAMemberIsABoxWithNumberAndNoLogLine) {
+TEST_F(TAManagerTest, ErrorOfAMemberIsABoxWithNumberAndNoLogLine) {
   screen.hourglassFails = true;
   manager.Install();
   ASSERT_THAT(screen.boxTexts(),
@@ -47,7 +47,7 @@ TEST_F(TAManagerTest, errorOfAMemberIsABoxWithNumberAndNoLogLine) {
   EXPECT_THAT(environment.lines, IsEmpty());
 }
 
-TEST_F(TAManagerTest, errorsCarryTheNameOfTheirMember) {
+TEST_F(TAManagerTest, ErrorsCarryTheNameOfTheirMember) {
   screen.hourglassFails = true;
   screen.windowsFail = true;
   manager.Activate();
@@ -62,7 +62,7 @@ TEST_F(TAManagerTest, errorsCarryTheNameOfTheirMember) {
 }
 
 // Each procedure inside reports on its own; the call of the host is one act.
-TEST_F(TAManagerTest, raiseFormShowsTenReportsAndOneBoxForTheRest) {
+TEST_F(TAManagerTest, RaiseFormShowsTenReportsAndOneBoxForTheRest) {
   auto scripted = std::make_shared<ScriptedConnection>(journal);
   component.module().setDBConnection(scripted);
   const std::string triggers = "exec TA_FetchSummary";
@@ -82,7 +82,7 @@ TEST_F(TAManagerTest, raiseFormShowsTenReportsAndOneBoxForTheRest) {
   EXPECT_EQ(screen.boxes.back().text, "21 more errors were written to Pelorin.txt.");
 }
 
-TEST_F(TAManagerTest, fromAnotherThreadEachMemberTellsItThereAndDoesNothing) {
+TEST_F(TAManagerTest, FromAnotherThreadEachMemberTellsItThereAndDoesNothing) {
   entrance.otherThread = true;
   manager.Activate();
   manager.Destroy();
@@ -103,7 +103,7 @@ TEST_F(TAManagerTest, fromAnotherThreadEachMemberTellsItThereAndDoesNothing) {
   EXPECT_THAT(journal.lines(), IsEmpty());
 }
 
-TEST_F(TAManagerTest, fromAnotherThreadPropertiesDoNothingInSilence) {
+TEST_F(TAManagerTest, FromAnotherThreadPropertiesDoNothingInSilence) {
   entrance.otherThread = true;
   bool assigned = false;
   manager.assign([&](Component&) { assigned = true; });
@@ -112,13 +112,13 @@ TEST_F(TAManagerTest, fromAnotherThreadPropertiesDoNothingInSilence) {
   EXPECT_THAT(entrance.told, IsEmpty());
 }
 
-TEST_F(TAManagerTest, errorsOfAPropertyArePassedOver) {
+TEST_F(TAManagerTest, ErrorsOfAPropertyArePassedOver) {
   manager.assign([](Component&) { throw RunTimeError(5, "no"); });
   EXPECT_THAT(screen.boxes, IsEmpty());
   EXPECT_THAT(entrance.told, IsEmpty());
 }
 
-TEST_F(TAManagerTest, everyCallIsInsideTheComponentUntilItEnds) {
+TEST_F(TAManagerTest, EveryCallIsInsideTheComponentUntilItEnds) {
   int during = 0;
   manager.assign([&](Component&) { during = entrance.inside; });
   EXPECT_EQ(during, 1);
@@ -129,7 +129,7 @@ TEST_F(TAManagerTest, everyCallIsInsideTheComponentUntilItEnds) {
   EXPECT_EQ(entrance.inside, 0);
 }
 
-TEST_F(TAManagerTest, addInIdIsTheFirstRowsOfThatName) {
+TEST_F(TAManagerTest, AddInIdIsTheFirstRowsOfThatName) {
   auto scripted = std::make_shared<ScriptedConnection>(journal);
   component.module().setDBConnection(scripted);
   scripted->answer(
@@ -139,7 +139,7 @@ TEST_F(TAManagerTest, addInIdIsTheFirstRowsOfThatName) {
   EXPECT_EQ(scripted->openCursors(), 0);
 }
 
-TEST_F(TAManagerTest, addInIdIsZeroWithoutARow) {
+TEST_F(TAManagerTest, AddInIdIsZeroWithoutARow) {
   auto scripted = std::make_shared<ScriptedConnection>(journal);
   component.module().setDBConnection(scripted);
   EXPECT_EQ(manager.GetAddInID("O'Neil"), 0);
@@ -149,7 +149,7 @@ TEST_F(TAManagerTest, addInIdIsZeroWithoutARow) {
   EXPECT_EQ(scripted->openCursors(), 0);
 }
 
-TEST_F(TAManagerTest, addInIdIsZeroAfterAnErrorThatIsReported) {
+TEST_F(TAManagerTest, AddInIdIsZeroAfterAnErrorThatIsReported) {
   component.module().setDBConnection(nullptr);
   EXPECT_EQ(manager.GetAddInID("MorvatPelorin"), 0);
   EXPECT_THAT(screen.boxTexts(), ElementsAre(StartsWith("TAManager.GetAddInID: Line: ")));

@@ -26,7 +26,7 @@ struct AdoTest : ::testing::Test {
   }
 };
 
-TEST_F(AdoTest, readsRowsByNameAndPosition) {
+TEST_F(AdoTest, ReadsRowsByNameAndPosition) {
   ado.give("select",
            {{"ID", "Name"},
             {{Variant::int32(1), Variant::text("one")}, {Variant::int32(2), Variant::null()}}});
@@ -40,14 +40,14 @@ TEST_F(AdoTest, readsRowsByNameAndPosition) {
   EXPECT_FALSE(rows.next());
 }
 
-TEST_F(AdoTest, resultWithoutRowsHasItsColumns) {
+TEST_F(AdoTest, ResultWithoutRowsHasItsColumns) {
   ado.give("select", {{"ID"}, {}});
   RecordSet rows = connection->open("select");
   EXPECT_FALSE(rows.next());
   EXPECT_EQ(*ado.openRecordsets, 0);
 }
 
-TEST_F(AdoTest, readsInBlocks) {
+TEST_F(AdoTest, ReadsInBlocks) {
   ado.give("select", numbers(1201));
   RecordSet rows = connection->open("select");
   int count = 0;
@@ -56,17 +56,17 @@ TEST_F(AdoTest, readsInBlocks) {
   EXPECT_THAT(*ado.blockSizes, SizeIs(3));
 }
 
-TEST_F(AdoTest, statementIsSentAsText) {
+TEST_F(AdoTest, StatementIsSentAsText) {
   connection->open("exec A 1");
   EXPECT_THAT(ado.connection->calls(), ElementsAre("Execute(BSTR exec A 1, MISSING, I4 1)"));
 }
 
-TEST_F(AdoTest, statementWithoutResultAsksForNone) {
+TEST_F(AdoTest, StatementWithoutResultAsksForNone) {
   connection->execute("exec A 1");
   EXPECT_THAT(ado.connection->calls(), ElementsAre("Execute(BSTR exec A 1, MISSING, I4 129)"));
 }
 
-TEST_F(AdoTest, closesTheRecordSetWhenAllOrNothingWasRead) {
+TEST_F(AdoTest, ClosesTheRecordSetWhenAllOrNothingWasRead) {
   ado.give("select", numbers(3));
   {
     RecordSet rows = connection->open("select");
@@ -76,7 +76,7 @@ TEST_F(AdoTest, closesTheRecordSetWhenAllOrNothingWasRead) {
   EXPECT_EQ(*ado.openRecordsets, 0);
 }
 
-TEST_F(AdoTest, closesTheRecordSetWhenItsColumnsCannotBeRead) {
+TEST_F(AdoTest, ClosesTheRecordSetWhenItsColumnsCannotBeRead) {
   auto broken = FakeObject::make();
   int closed = 0;
   broken->on(L"State", answer(Variant::int32(1)))
@@ -92,7 +92,7 @@ TEST_F(AdoTest, closesTheRecordSetWhenItsColumnsCannotBeRead) {
   EXPECT_EQ(closed, 1);
 }
 
-TEST_F(AdoTest, closesTheRecordSetWhenAFetchFails) {
+TEST_F(AdoTest, ClosesTheRecordSetWhenAFetchFails) {
   auto object = FakeObject::make();
   auto rowsObject = FakeObject::make();
   auto fields = FakeObject::make();
@@ -115,7 +115,7 @@ TEST_F(AdoTest, closesTheRecordSetWhenAFetchFails) {
   EXPECT_EQ(closed, 1);
 }
 
-TEST_F(AdoTest, skipsRowCountsInFrontOfTheRows) {
+TEST_F(AdoTest, SkipsRowCountsInFrontOfTheRows) {
   auto counts = FakeObject::make();
   counts->on(L"State", answer(Variant::int32(0)))
       .on(L"NextRecordset", answerObject(ado.recordset(numbers(1))));
@@ -126,7 +126,7 @@ TEST_F(AdoTest, skipsRowCountsInFrontOfTheRows) {
   EXPECT_TRUE(rows.next());
 }
 
-TEST_F(AdoTest, statementWithoutRowsCannotBeRead) {
+TEST_F(AdoTest, StatementWithoutRowsCannotBeRead) {
   auto counts = FakeObject::make();
   counts->on(L"State", answer(Variant::int32(0)))
       .on(L"NextRecordset", answer(Variant::object(nullptr)));
@@ -141,7 +141,7 @@ TEST_F(AdoTest, statementWithoutRowsCannotBeRead) {
   }
 }
 
-TEST_F(AdoTest, databaseErrorKeepsNumberTextAndLine) {
+TEST_F(AdoTest, DatabaseErrorKeepsNumberTextAndLine) {
   ado.failures["select"] = L"Invalid object name 'T'.";
   try {
     connection->open("select");
@@ -153,7 +153,7 @@ TEST_F(AdoTest, databaseErrorKeepsNumberTextAndLine) {
   }
 }
 
-TEST_F(AdoTest, cellOfAnUnknownTypeIsAnErrorOnlyWhereItIsRead) {
+TEST_F(AdoTest, CellOfAnUnknownTypeIsAnErrorOnlyWhereItIsRead) {
   FakeResult result{{"ID", "Shape"}, {}};
   for (int i = 0; i < 600; ++i) {
     result.rows.push_back({Variant::int32(i), Variant::object(ado.connection.get())});
@@ -173,7 +173,7 @@ TEST_F(AdoTest, cellOfAnUnknownTypeIsAnErrorOnlyWhereItIsRead) {
   }
 }
 
-TEST_F(AdoTest, rowsBeforeALostBlockAreRead) {
+TEST_F(AdoTest, RowsBeforeALostBlockAreRead) {
   ado.failingRow = 700;
   ado.give("select", numbers(900));
   RecordSet rows = connection->open("select");
@@ -187,7 +187,7 @@ TEST_F(AdoTest, rowsBeforeALostBlockAreRead) {
   EXPECT_EQ(*ado.openRecordsets, 0);
 }
 
-TEST_F(AdoTest, endlessChainOfRowCountsEnds) {
+TEST_F(AdoTest, EndlessChainOfRowCountsEnds) {
   auto counts = FakeObject::make();
   counts->on(L"State", answer(Variant::int32(0))).on(L"NextRecordset", [&counts](Call& call) {
     return answerObject(counts)(call);
@@ -216,25 +216,25 @@ struct LostConnectionTest : AdoTest {
   }
 };
 
-TEST_F(LostConnectionTest, isOpenWithoutErrorsOfItsOwn) {
+TEST_F(LostConnectionTest, IsOpenWithoutErrorsOfItsOwn) {
   EXPECT_FALSE(lostAfterAnError());
   ado.state = 5;  // open and executing
   EXPECT_FALSE(lostAfterAnError());
 }
 
-TEST_F(LostConnectionTest, isOneThatIsNoLongerOpen) {
+TEST_F(LostConnectionTest, IsOneThatIsNoLongerOpen) {
   ado.state = 0;
   EXPECT_TRUE(lostAfterAnError());
 }
 
-TEST_F(LostConnectionTest, isOneWhoseFirstErrorIsOfTheConnection) {
+TEST_F(LostConnectionTest, IsOneWhoseFirstErrorIsOfTheConnection) {
   ado.sqlStates = {"08S01"};
   EXPECT_TRUE(lostAfterAnError());
   ado.sqlStates = {"42S02", "08S01"};
   EXPECT_FALSE(lostAfterAnError());
 }
 
-TEST_F(LostConnectionTest, isNotOneThatTellsNothing) {
+TEST_F(LostConnectionTest, IsNotOneThatTellsNothing) {
   auto object = FakeObject::make();
   object->on(L"Execute", fail(E_FAIL, L"failed"));
   AdoConnection silent{ComPtr<IDispatch>(object.get())};
@@ -246,7 +246,7 @@ TEST_F(LostConnectionTest, isNotOneThatTellsNothing) {
   }
 }
 
-TEST_F(LostConnectionTest, isNoticedByStatementsAndProcedures) {
+TEST_F(LostConnectionTest, IsNoticedByStatementsAndProcedures) {
   ado.failures["delete"] = L"failed";
   ado.state = 0;
   ProcedureCall procedure{"DVR_AddAction", {}};
@@ -262,7 +262,7 @@ TEST_F(LostConnectionTest, isNoticedByStatementsAndProcedures) {
   EXPECT_TRUE(lost([&] { connection->execute(procedure); }));
 }
 
-TEST_F(LostConnectionTest, isNoticedByAFetch) {
+TEST_F(LostConnectionTest, IsNoticedByAFetch) {
   ado.failingRow = 0;
   ado.give("select", numbers(3));
   RecordSet rows = connection->open("select");
@@ -275,7 +275,7 @@ TEST_F(LostConnectionTest, isNoticedByAFetch) {
   }
 }
 
-TEST_F(AdoTest, neverClosesTheLentConnectionAndGivesItBack) {
+TEST_F(AdoTest, NeverClosesTheLentConnectionAndGivesItBack) {
   ado.connection->on(L"Close", answer(Variant()));
   ado.give("select", numbers(2));
   {
@@ -315,7 +315,7 @@ struct ProcedureTest : AdoTest {
        {"PresetID", ParameterType::Integer, ParameterDirection::Input, Null{}}}};
 };
 
-TEST_F(ProcedureTest, runsAsAStoredProcedureCommandOnTheLentConnection) {
+TEST_F(ProcedureTest, RunsAsAStoredProcedureCommandOnTheLentConnection) {
   connection->execute(call);
   EXPECT_THAT(command->calls(),
               ElementsAre("putref ActiveConnection(OBJECT)", "put CommandText(BSTR DVR_AddAction)",
@@ -328,20 +328,20 @@ TEST_F(ProcedureTest, runsAsAStoredProcedureCommandOnTheLentConnection) {
               ElementsAre("Append(OBJECT)", "Append(OBJECT)", "Append(OBJECT)"));
 }
 
-TEST_F(ProcedureTest, readsTheOutputParameterOnly) {
+TEST_F(ProcedureTest, ReadsTheOutputParameterOnly) {
   connection->execute(call);
   EXPECT_EQ(toInt32(call.parameters[0].value), 4711);
   EXPECT_THAT(made[0]->calls(), ElementsAre("Value()"));
   EXPECT_THAT(made[1]->calls(), IsEmpty());
 }
 
-TEST_F(ProcedureTest, givesCommandAndParametersBack) {
+TEST_F(ProcedureTest, GivesCommandAndParametersBack) {
   connection->execute(call);
   EXPECT_EQ(made[0]->references(), 1U);
   EXPECT_EQ(command->references(), 1U);
 }
 
-TEST_F(ProcedureTest, machineWithoutAdoIsAnError) {
+TEST_F(ProcedureTest, MachineWithoutAdoIsAnError) {
   commands.revoke();
   EXPECT_THROW(connection->execute(call), RunTimeError);
 }

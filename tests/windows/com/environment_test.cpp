@@ -50,20 +50,20 @@ struct EnvironmentTest : ::testing::Test {
   }
 };
 
-TEST_F(EnvironmentTest, folderIsThatOfTheModule) {
+TEST_F(EnvironmentTest, FolderIsThatOfTheModule) {
   std::array<wchar_t, MAX_PATH> path{};
   GetModuleFileNameW(nullptr, path.data(), MAX_PATH);
   const std::string whole = toUtf8(path.data());
   EXPECT_EQ(environment.componentFolder(), whole.substr(0, whole.find_last_of('\\')));
 }
 
-TEST_F(EnvironmentTest, linesAreAppendedAndNeverTruncated) {
+TEST_F(EnvironmentTest, LinesAreAppendedAndNeverTruncated) {
   EXPECT_TRUE(environment.appendLine(file("log.txt"), "one"));
   EXPECT_TRUE(environment.appendLine(file("log.txt"), "zw\xC3\xB6lf"));
   EXPECT_EQ(environment.readFile(file("log.txt")), "one\r\nzw\xC3\xB6lf\r\n");
 }
 
-TEST_F(EnvironmentTest, linesAreAppendedBesideAnotherWriter) {
+TEST_F(EnvironmentTest, LinesAreAppendedBesideAnotherWriter) {
   HANDLE other = CreateFileW(toWide(file("log.txt")).c_str(), FILE_APPEND_DATA,
                              FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS, 0, nullptr);
   EXPECT_TRUE(environment.appendLine(file("log.txt"), "ours"));
@@ -74,11 +74,11 @@ TEST_F(EnvironmentTest, linesAreAppendedBesideAnotherWriter) {
   EXPECT_EQ(environment.readFile(file("log.txt")), "ours\r\ntheirs\r\nours\r\n");
 }
 
-TEST_F(EnvironmentTest, folderThatIsMissingTakesNoLine) {
+TEST_F(EnvironmentTest, FolderThatIsMissingTakesNoLine) {
   EXPECT_FALSE(environment.appendLine(file("missing\\log.txt"), "one"));
 }
 
-TEST_F(EnvironmentTest, missingFileIsError53WithItsName) {
+TEST_F(EnvironmentTest, MissingFileIsError53WithItsName) {
   for (const std::string& missing : {file("missing"), file("missing\\too")}) {
     const RunTimeError error = thrownBy([&] { environment.readFile(missing); });
     EXPECT_EQ(error.number(), 53);
@@ -86,7 +86,7 @@ TEST_F(EnvironmentTest, missingFileIsError53WithItsName) {
   }
 }
 
-TEST_F(EnvironmentTest, fileThatIsThereAndCannotBeReadIsError75WithItsName) {
+TEST_F(EnvironmentTest, FileThatIsThereAndCannotBeReadIsError75WithItsName) {
   files::replace(file("data.bin"), "held");
   HANDLE held = CreateFileW(toWide(file("data.bin")).c_str(), GENERIC_READ, 0, nullptr,
                             OPEN_EXISTING, 0, nullptr);
@@ -97,14 +97,14 @@ TEST_F(EnvironmentTest, fileThatIsThereAndCannotBeReadIsError75WithItsName) {
   EXPECT_EQ(thrownBy([&] { environment.readFile(folder); }).number(), 75);
 }
 
-TEST_F(EnvironmentTest, writtenFileReplacesTheOldOne) {
+TEST_F(EnvironmentTest, WrittenFileReplacesTheOldOne) {
   files::replace(file("data.bin"), std::string("old and longer"));
   files::replace(file("data.bin"), std::string("new\0!", 5));
   EXPECT_EQ(environment.readFile(file("data.bin")), std::string("new\0!", 5));
   EXPECT_THROW(environment.readFile(file("data.bin.new")), RunTimeError);
 }
 
-TEST_F(EnvironmentTest, fileThatCannotBeReplacedKeepsItsContent) {
+TEST_F(EnvironmentTest, FileThatCannotBeReplacedKeepsItsContent) {
   files::replace(file("data.bin"), "old");
   HANDLE held = CreateFileW(toWide(file("data.bin")).c_str(), GENERIC_READ, FILE_SHARE_READ,
                             nullptr, OPEN_EXISTING, 0, nullptr);
@@ -114,13 +114,13 @@ TEST_F(EnvironmentTest, fileThatCannotBeReplacedKeepsItsContent) {
   EXPECT_THROW(environment.readFile(file("data.bin.new")), RunTimeError);
 }
 
-TEST_F(EnvironmentTest, updateBeginsWithNothingAndGoesOnWithWhatIsThere) {
+TEST_F(EnvironmentTest, UpdateBeginsWithNothingAndGoesOnWithWhatIsThere) {
   environment.updateFile(file("data.bin"), [](const std::string& old) { return old + "a"; });
   environment.updateFile(file("data.bin"), [](const std::string& old) { return old + "b"; });
   EXPECT_EQ(environment.readFile(file("data.bin")), "ab");
 }
 
-TEST_F(EnvironmentTest, updateOfAFileThatCannotBeReadChangesNothing) {
+TEST_F(EnvironmentTest, UpdateOfAFileThatCannotBeReadChangesNothing) {
   files::replace(file("data.bin"), "old");
   HANDLE held = CreateFileW(toWide(file("data.bin")).c_str(), GENERIC_READ, FILE_SHARE_DELETE,
                             nullptr, OPEN_EXISTING, 0, nullptr);
@@ -133,7 +133,7 @@ TEST_F(EnvironmentTest, updateOfAFileThatCannotBeReadChangesNothing) {
 }
 
 // Threads stand for the processes of two hosts.
-TEST_F(EnvironmentTest, updatesOfManyAtOnceLoseNothing) {
+TEST_F(EnvironmentTest, UpdatesOfManyAtOnceLoseNothing) {
   constexpr std::size_t writers = 4;
   constexpr std::size_t updates = 10;
   std::vector<std::thread> threads;
@@ -149,30 +149,30 @@ TEST_F(EnvironmentTest, updatesOfManyAtOnceLoseNothing) {
   EXPECT_EQ(environment.readFile(file("data.bin")), std::string(writers * updates, 'x'));
 }
 
-TEST_F(EnvironmentTest, clockNeverGoesBack) {
+TEST_F(EnvironmentTest, ClockNeverGoesBack) {
   const std::uint64_t before = environment.milliseconds();
   EXPECT_GE(environment.milliseconds(), before);
   EXPECT_GE(environment.milliseconds(), GetTickCount64() - 60000);
 }
 
-TEST_F(EnvironmentTest, settingOfAMissingFileOrKeyIsTheFallback) {
+TEST_F(EnvironmentTest, SettingOfAMissingFileOrKeyIsTheFallback) {
   EXPECT_EQ(setting("Key"), "NOTINITIALIZED");
   files::replace(file("set.ini"), "[Section]\r\nOther=1\r\n");
   EXPECT_EQ(setting("Key"), "NOTINITIALIZED");
 }
 
-TEST_F(EnvironmentTest, settingIsReadFromTheAnsiCodePage) {
+TEST_F(EnvironmentTest, SettingIsReadFromTheAnsiCodePage) {
   files::replace(file("set.ini"), "[Section]\r\nKey=T\xFCr\r\nEmpty=\r\n");
   EXPECT_EQ(setting("Key"), "T\xC3\xBCr");
   EXPECT_EQ(setting("Empty"), "");
 }
 
-TEST_F(EnvironmentTest, settingHasAtMostTwoHundredCharacters) {
+TEST_F(EnvironmentTest, SettingHasAtMostTwoHundredCharacters) {
   files::replace(file("set.ini"), "[Section]\r\nKey=" + std::string(300, 'x') + "\r\n");
   EXPECT_EQ(setting("Key"), std::string(200, 'x'));
 }
 
-TEST_F(EnvironmentTest, settingIsReadFromAFolderOutsideTheCodePage) {
+TEST_F(EnvironmentTest, SettingIsReadFromAFolderOutsideTheCodePage) {
   RemoveDirectoryW(toWide(folder).c_str());
   folder = makeFolder("\xE6\x89\x89");
   files::replace(file("set.ini"), "[Section]\r\nKey=value\r\n");
@@ -180,7 +180,7 @@ TEST_F(EnvironmentTest, settingIsReadFromAFolderOutsideTheCodePage) {
   EXPECT_EQ(setting("Missing"), "NOTINITIALIZED");
 }
 
-TEST_F(EnvironmentTest, dateAndTimeAreThoseOfTheUsersLocale) {
+TEST_F(EnvironmentTest, DateAndTimeAreThoseOfTheUsersLocale) {
   SYSTEMTIME now{};
   GetLocalTime(&now);
   std::array<wchar_t, 128> date{};

@@ -30,7 +30,7 @@ struct LateBoundTest : ::testing::Test {
   }
 };
 
-TEST_F(LateBoundTest, passesArgumentsInTheirOrder) {
+TEST_F(LateBoundTest, PassesArgumentsInTheirOrder) {
   fake->on(L"Member", answer(Variant::int32(7)));
   const Variant result =
       object.call(L"Member", {Variant::int32(1), Variant::text("two"), Variant::missing()});
@@ -38,7 +38,7 @@ TEST_F(LateBoundTest, passesArgumentsInTheirOrder) {
   EXPECT_THAT(fake->calls(), ElementsAre("Member(I4 1, BSTR two, MISSING)"));
 }
 
-TEST_F(LateBoundTest, callsAsMethodOrPropertyValue) {
+TEST_F(LateBoundTest, CallsAsMethodOrPropertyValue) {
   WORD kind = 0;
   fake->on(L"Member", [&](Call& call) {
     kind = call.kind;
@@ -48,73 +48,73 @@ TEST_F(LateBoundTest, callsAsMethodOrPropertyValue) {
   EXPECT_EQ(kind, DISPATCH_METHOD | DISPATCH_PROPERTYGET);
 }
 
-TEST_F(LateBoundTest, looksANameUpOnce) {
+TEST_F(LateBoundTest, LooksANameUpOnce) {
   fake->on(L"Member", answer(Variant()));
   for (int i = 0; i < 3; ++i) object.call(L"Member");
   EXPECT_EQ(fake->nameLookups(), 1);
 }
 
-TEST_F(LateBoundTest, findsNamesThatAreAnsweredByTheExtendedInterfaceOnly) {
+TEST_F(LateBoundTest, FindsNamesThatAreAnsweredByTheExtendedInterfaceOnly) {
   fake->extendedOnly().on(L"Member", answer(Variant::int32(7)));
   EXPECT_EQ(valueOf(object.call(L"member")), Value(std::int64_t{7}));
 }
 
-TEST_F(LateBoundTest, assignsValuesAndReferences) {
+TEST_F(LateBoundTest, AssignsValuesAndReferences) {
   fake->on(L"Value", answer(Variant())).on(L"Object", answer(Variant()));
   object.put(L"Value", Variant::int16(91));
   object.putReference(L"Object", fake.get());
   EXPECT_THAT(fake->calls(), ElementsAre("put Value(I2 91)", "putref Object(OBJECT)"));
 }
 
-TEST_F(LateBoundTest, itemIsTheDefaultMember) {
+TEST_F(LateBoundTest, ItemIsTheDefaultMember) {
   const auto entry = FakeObject::make();
   fake->onDefault(answerObject(entry)).on(L"Item", answer(Variant()));
   EXPECT_EQ(object.item(Variant::text("key")).get(), entry.get());
   EXPECT_THAT(fake->calls(), ElementsAre("default(BSTR key)"));
 }
 
-TEST_F(LateBoundTest, itemIsTheMemberOfThatNameWithoutADefault) {
+TEST_F(LateBoundTest, ItemIsTheMemberOfThatNameWithoutADefault) {
   const auto entry = FakeObject::make();
   fake->on(L"Item", answerObject(entry));
   EXPECT_EQ(object.item(Variant::text("key")).get(), entry.get());
   EXPECT_THAT(fake->calls(), ElementsAre("Item(BSTR key)"));
 }
 
-TEST_F(LateBoundTest, itemIsTheMemberOfThatNameWhenTheDefaultTakesNoKey) {
+TEST_F(LateBoundTest, ItemIsTheMemberOfThatNameWhenTheDefaultTakesNoKey) {
   const auto entry = FakeObject::make();
   fake->onDefault(refuse(DISP_E_BADPARAMCOUNT)).on(L"Item", answerObject(entry));
   EXPECT_EQ(object.item(Variant::text("key")).get(), entry.get());
 }
 
-TEST_F(LateBoundTest, failingDefaultMemberIsAnError) {
+TEST_F(LateBoundTest, FailingDefaultMemberIsAnError) {
   fake->onDefault(fail(E_FAIL, L"no such key")).on(L"Item", answer(Variant()));
   EXPECT_EQ(errorFrom([&] { object.item(Variant::text("key")); }).description(), "no such key");
 }
 
-TEST_F(LateBoundTest, anotherResultThanAnObjectIsError424) {
+TEST_F(LateBoundTest, AnotherResultThanAnObjectIsError424) {
   fake->on(L"Member", answer(Variant::int32(1)));
   EXPECT_EQ(errorFrom([&] { object.object(L"Member"); }).number(), 424);
 }
 
-TEST_F(LateBoundTest, unknownMemberIsError438) {
+TEST_F(LateBoundTest, UnknownMemberIsError438) {
   const RunTimeError error = errorFrom([&] { object.call(L"Nothing"); });
   EXPECT_EQ(error.number(), 438);
   EXPECT_EQ(error.description(), "Object doesn't support this property or method");
 }
 
-TEST_F(LateBoundTest, errorOfTheObjectKeepsItsNumberAndText) {
+TEST_F(LateBoundTest, ErrorOfTheObjectKeepsItsNumberAndText) {
   fake->on(L"Member", fail(static_cast<HRESULT>(0x80040E14), L"Incorrect syntax"));
   const RunTimeError error = errorFrom([&] { object.call(L"Member"); });
   EXPECT_EQ(error.number(), -2147217900);
   EXPECT_EQ(error.description(), "Incorrect syntax");
 }
 
-TEST_F(LateBoundTest, errorOfTheControlFacilityIsItsPlainNumber) {
+TEST_F(LateBoundTest, ErrorOfTheControlFacilityIsItsPlainNumber) {
   fake->on(L"Member", fail(static_cast<HRESULT>(0x800A0CC1), L"Item cannot be found"));
   EXPECT_EQ(errorFrom([&] { object.call(L"Member"); }).number(), 3265);
 }
 
-TEST_F(LateBoundTest, errorWithAPlainCodeIsThatCode) {
+TEST_F(LateBoundTest, ErrorWithAPlainCodeIsThatCode) {
   fake->on(L"Member", [](Call& call) {
     call.exception->wCode = 1004;
     return DISP_E_EXCEPTION;
@@ -128,7 +128,7 @@ HRESULT STDAPICALLTYPE fillInLate(EXCEPINFO* info) {
   return S_OK;
 }
 
-TEST_F(LateBoundTest, errorThatFillsInLateIsAsked) {
+TEST_F(LateBoundTest, ErrorThatFillsInLateIsAsked) {
   fake->on(L"Member", [](Call& call) {
     call.exception->pfnDeferredFillIn = fillInLate;
     return DISP_E_EXCEPTION;
@@ -138,7 +138,7 @@ TEST_F(LateBoundTest, errorThatFillsInLateIsAsked) {
   EXPECT_EQ(error.description(), "late text");
 }
 
-TEST_F(LateBoundTest, errorWithoutTextHasTheStandardOne) {
+TEST_F(LateBoundTest, ErrorWithoutTextHasTheStandardOne) {
   fake->on(L"Mismatch", refuse(DISP_E_TYPEMISMATCH))
       .on(L"Exception", fail(DISP_E_OVERFLOW, L""))
       .on(L"Unknown", refuse(static_cast<HRESULT>(0x8FFF1234)));
@@ -148,7 +148,7 @@ TEST_F(LateBoundTest, errorWithoutTextHasTheStandardOne) {
   EXPECT_EQ(errorFrom([&] { object.call(L"Unknown"); }).description(), "Automation error");
 }
 
-TEST_F(LateBoundTest, holdsTheObjectWhileItIsCalled) {
+TEST_F(LateBoundTest, HoldsTheObjectWhileItIsCalled) {
   ULONG during = 0;
   std::optional<LateBound> only(std::in_place, ComPtr<IDispatch>(fake.get()));
   fake->on(L"Member", [&](Call&) {
@@ -161,7 +161,7 @@ TEST_F(LateBoundTest, holdsTheObjectWhileItIsCalled) {
   EXPECT_EQ(during, 3U);
 }
 
-TEST_F(LateBoundTest, givesEverythingBack) {
+TEST_F(LateBoundTest, GivesEverythingBack) {
   const auto result = FakeObject::make();
   fake->on(L"Member", answerObject(result)).on(L"Failing", fail(E_FAIL, L"text"));
   {

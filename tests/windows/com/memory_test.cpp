@@ -72,13 +72,13 @@ int leftBehind(Work&& work) {
   return counter.blocks() - before;
 }
 
-TEST(Memory, counterSeesWhatIsLeftBehind) {
+TEST(Memory, CounterSeesWhatIsLeftBehind) {
   std::vector<BSTR> kept;
   EXPECT_EQ(leftBehind([&] { kept.push_back(SysAllocString(L"kept")); }), 100);
   for (BSTR text : kept) SysFreeString(text);
 }
 
-TEST(Memory, callsOfTheServicesLeaveNothingBehind) {
+TEST(Memory, CallsOfTheServicesLeaveNothingBehind) {
   const auto host = FakeObject::make();
   host->on(L"GRS", answer(Variant::text("a text"))).on(L"OperatorID", fail(E_FAIL, L"failed"));
   const auto services = std::make_shared<LateBoundServices>(ComPtr<IDispatch>(host.get()));
@@ -90,7 +90,7 @@ TEST(Memory, callsOfTheServicesLeaveNothingBehind) {
             0);
 }
 
-TEST(Memory, readingRowsLeavesNothingBehind) {
+TEST(Memory, ReadingRowsLeavesNothingBehind) {
   FakeAdo ado;
   ado.give("select", {{"ID", "Name"}, {{Variant::int32(1), Variant::text("a name")}}});
   const auto connection = std::make_shared<AdoConnection>(ComPtr<IDispatch>(ado.connection.get()));

@@ -11,41 +11,41 @@
 namespace pelorin::test {
 namespace {
 
-TEST(Text, travelsBothWaysWithoutLoss) {
+TEST(Text, TravelsBothWaysWithoutLoss) {
   const std::string text = "a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x9A\xAA";
   EXPECT_EQ(toWide(text), L"a\x00E4\x20AC\xD83D\xDEAA");
   EXPECT_EQ(toUtf8(toWide(text)), text);
 }
 
-TEST(Text, halfASurrogatePairSurvives) {
+TEST(Text, HalfASurrogatePairSurvives) {
   const std::wstring half = L"x\xD83Dy";
   EXPECT_EQ(toWide(toUtf8(half)), half);
 }
 
-TEST(Text, bytesThatAreNoTextBecomeTheReplacement) {
+TEST(Text, BytesThatAreNoTextBecomeTheReplacement) {
   EXPECT_EQ(toWide("a\xFFz"), L"a\xFFFDz");
   EXPECT_EQ(toWide("\xC3"), L"\xFFFD");
   EXPECT_EQ(toWide("\xC0\x80"), L"\xFFFD\xFFFD");
 }
 
-TEST(Text, mayHoldNulCharacters) {
+TEST(Text, MayHoldNulCharacters) {
   EXPECT_EQ(toUtf8(std::wstring_view(L"a\0b", 3)), std::string("a\0b", 3));
 }
 
-TEST(BstrOwner, keepsNulCharactersAndEmptyTexts) {
+TEST(BstrOwner, KeepsNulCharactersAndEmptyTexts) {
   EXPECT_EQ(Bstr(std::wstring_view(L"a\0b", 3)).view(), std::wstring_view(L"a\0b", 3));
   EXPECT_TRUE(Bstr(std::string_view()).view().empty());
   EXPECT_TRUE(viewOf(nullptr).empty());
 }
 
-TEST(BstrOwner, movesItsText) {
+TEST(BstrOwner, MovesItsText) {
   Bstr first(std::string_view("text"));
   const Bstr second(std::move(first));
   EXPECT_EQ(second.view(), L"text");
   EXPECT_EQ(first.get(), nullptr);  // NOLINT(bugprone-use-after-move)
 }
 
-TEST(ComPtrOwner, countsReferences) {
+TEST(ComPtrOwner, CountsReferences) {
   const auto object = FakeObject::make();
   {
     const ComPtr<IDispatch> second(object.get());
@@ -56,7 +56,7 @@ TEST(ComPtrOwner, countsReferences) {
   EXPECT_EQ(object->references(), 1U);
 }
 
-TEST(ComPtrOwner, askedForAnotherInterfaceIsNullWhenThereIsNone) {
+TEST(ComPtrOwner, AskedForAnotherInterfaceIsNullWhenThereIsNone) {
   const auto object = FakeObject::make();
   EXPECT_TRUE(ComPtr<IUnknown>(object.get()).query<IDispatch>(IID_IDispatch));
   EXPECT_FALSE(ComPtr<IUnknown>(object.get()).query<IClassFactory>(IID_IClassFactory));
@@ -64,14 +64,14 @@ TEST(ComPtrOwner, askedForAnotherInterfaceIsNullWhenThereIsNone) {
   EXPECT_EQ(object->references(), 1U);
 }
 
-TEST(ComPtrOwner, resultPlaceLetsGoOfWhatWasHeld) {
+TEST(ComPtrOwner, ResultPlaceLetsGoOfWhatWasHeld) {
   const auto object = FakeObject::make();
   ComPtr<IDispatch> pointer(object.get());
   EXPECT_EQ(*pointer.put(), nullptr);
   EXPECT_EQ(object->references(), 1U);
 }
 
-TEST(VariantOwner, givesBackTheObjectItHolds) {
+TEST(VariantOwner, GivesBackTheObjectItHolds) {
   const auto object = FakeObject::make();
   {
     const Variant first = Variant::object(object.get());
@@ -82,7 +82,7 @@ TEST(VariantOwner, givesBackTheObjectItHolds) {
   EXPECT_EQ(object->references(), 1U);
 }
 
-TEST(VariantOwner, copiesReferencesAsReferences) {
+TEST(VariantOwner, CopiesReferencesAsReferences) {
   LONG number = 5;
   const Variant reference = Variant::reference(number);
   const Variant copy = reference;  // NOLINT(performance-unnecessary-copy-initialization)
@@ -90,7 +90,7 @@ TEST(VariantOwner, copiesReferencesAsReferences) {
   EXPECT_EQ(copy.plVal, &number);
 }
 
-TEST(VariantOwner, findsTheObjectBehindReferences) {
+TEST(VariantOwner, FindsTheObjectBehindReferences) {
   const auto object = FakeObject::make();
   Variant inner = Variant::object(object.get());
   Variant outer;
@@ -101,7 +101,7 @@ TEST(VariantOwner, findsTheObjectBehindReferences) {
   EXPECT_FALSE(Variant::object(nullptr).asObject());
 }
 
-TEST(VariantOwner, resolvedCopyIsItsOwn) {
+TEST(VariantOwner, ResolvedCopyIsItsOwn) {
   Variant inner = Variant::text("text");
   Variant outer;
   outer.vt = VT_BYREF | VT_VARIANT;
@@ -111,7 +111,7 @@ TEST(VariantOwner, resolvedCopyIsItsOwn) {
   EXPECT_NE(copy.bstrVal, inner.bstrVal);
 }
 
-TEST(SafeArrayOwner, givesBackTheObjectsInIt) {
+TEST(SafeArrayOwner, GivesBackTheObjectsInIt) {
   const auto object = FakeObject::make();
   {
     const SafeArray array(SafeArrayCreateVector(VT_VARIANT, 0, 2));
@@ -122,7 +122,7 @@ TEST(SafeArrayOwner, givesBackTheObjectsInIt) {
   EXPECT_EQ(object->references(), 1U);
 }
 
-TEST(SafeArrayOwner, knowsItsExtents) {
+TEST(SafeArrayOwner, KnowsItsExtents) {
   SAFEARRAYBOUND bounds[2] = {{3, 1}, {4, -2}};
   const SafeArray array(SafeArrayCreate(VT_I4, 2, bounds));
   EXPECT_EQ(extentOf(array.get(), 1), 3U);

@@ -43,65 +43,65 @@ struct WindowObject : ::testing::Test {
   Variant asInt32() const { return Variant::int32(HandleToLong(window.get())); }
 };
 
-TEST_F(WindowObject, hasAHandleAsInteger) {
+TEST_F(WindowObject, HasAHandleAsInteger) {
   EXPECT_EQ(found(asInt32()), window.get());
 }
 
-TEST_F(WindowObject, hasAHandleAsWideInteger) {
+TEST_F(WindowObject, HasAHandleAsWideInteger) {
   Variant handle;
   handle.vt = VT_I8;
   handle.llVal = reinterpret_cast<INT_PTR>(window.get());
   EXPECT_EQ(found(handle), window.get());
 }
 
-TEST_F(WindowObject, hasAHandleAsReal) {
+TEST_F(WindowObject, HasAHandleAsReal) {
   EXPECT_EQ(found(Variant::real(static_cast<double>(HandleToLong(window.get())))), window.get());
 }
 
-TEST_F(WindowObject, isRecognisedByItsSiteInterface) {
+TEST_F(WindowObject, IsRecognisedByItsSiteInterface) {
   SiteObject site(window.get());
   EXPECT_EQ(windowOf(&site), window.get());
 }
 
-TEST_F(WindowObject, givesItsTopLevelWindow) {
+TEST_F(WindowObject, GivesItsTopLevelWindow) {
   const HWND child = window.makeChild();
   EXPECT_EQ(found(Variant::int32(HandleToLong(child))), window.get());
 }
 
-TEST_F(WindowObject, isNotOneWithoutAHandle) {
+TEST_F(WindowObject, IsNotOneWithoutAHandle) {
   EXPECT_EQ(windowOf(object.get()), nullptr);
 }
 
-TEST_F(WindowObject, isNotOneWithAHandleThatIsNone) {
+TEST_F(WindowObject, IsNotOneWithAHandleThatIsNone) {
   EXPECT_EQ(found(Variant::int32(0)), nullptr);
   const auto garbage = FakeObject::make();
   garbage->on(L"hWnd", answer(Variant::int32(0x7FFFFFF1)));
   EXPECT_EQ(windowOf(garbage.get()), nullptr);
 }
 
-TEST_F(WindowObject, isNotOneWithAHandleOfAnotherType) {
+TEST_F(WindowObject, IsNotOneWithAHandleOfAnotherType) {
   EXPECT_EQ(found(Variant::text(std::to_string(HandleToLong(window.get())))), nullptr);
   const auto empty = FakeObject::make();
   empty->on(L"hWnd", answer(Variant()));
   EXPECT_EQ(windowOf(empty.get()), nullptr);
 }
 
-TEST_F(WindowObject, isNotOneOfAnotherProcess) {
+TEST_F(WindowObject, IsNotOneOfAnotherProcess) {
   EXPECT_EQ(found(Variant::int32(HandleToLong(GetDesktopWindow()))), nullptr);
 }
 
-TEST_F(WindowObject, isNotOneWhenItsWindowIsGone) {
+TEST_F(WindowObject, IsNotOneWhenItsWindowIsGone) {
   const Variant handle = asInt32();
   window.destroy();
   EXPECT_EQ(found(handle), nullptr);
 }
 
-TEST_F(WindowObject, isNotKept) {
+TEST_F(WindowObject, IsNotKept) {
   found(asInt32());
   EXPECT_EQ(object->references(), 1U);
 }
 
-TEST(AdoConnectionObject, isOneWithTheInterfaceOfAnyVersion) {
+TEST(AdoConnectionObject, IsOneWithTheInterfaceOfAnyVersion) {
   for (const IID& id : ado::connectionInterfaces) {
     const auto object = FakeObject::make();
     object->answersTo(id);
@@ -110,12 +110,12 @@ TEST(AdoConnectionObject, isOneWithTheInterfaceOfAnyVersion) {
   }
 }
 
-TEST(AdoConnectionObject, isOneWithTheMembersOfOne) {
+TEST(AdoConnectionObject, IsOneWithTheMembersOfOne) {
   const FakeAdo ado;
   EXPECT_TRUE(isAdoConnection(ado.connection.get()));
 }
 
-TEST(AdoConnectionObject, isNotOneWithAPartOfTheMembers) {
+TEST(AdoConnectionObject, IsNotOneWithAPartOfTheMembers) {
   const auto object = FakeObject::make();
   object->on(L"Execute", answer(Variant())).on(L"State", answer(Variant()));
   EXPECT_FALSE(isAdoConnection(object.get()));

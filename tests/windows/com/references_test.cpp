@@ -17,7 +17,7 @@ class References : public ServerTest {
   bool letGo() const { return services->references() == 1 && ado.connection->references() == 1; }
 };
 
-TEST_F(References, areLetGoWithTheLastObject) {
+TEST_F(References, AreLetGoWithTheLastObject) {
   handOver();
   auto other = create();
   manager = ComPtr<_TAManager>();
@@ -26,7 +26,7 @@ TEST_F(References, areLetGoWithTheLastObject) {
   EXPECT_TRUE(letGo());
 }
 
-TEST_F(References, areKeptWhileAWindowIsOpenAndLetGoWhenItCloses) {
+TEST_F(References, AreKeptWhileAWindowIsOpenAndLetGoWhenItCloses) {
   handOver();
   manager->RaiseForm();
   manager = ComPtr<_TAManager>();
@@ -35,7 +35,7 @@ TEST_F(References, areKeptWhileAWindowIsOpenAndLetGoWhenItCloses) {
   EXPECT_TRUE(letGo());
 }
 
-TEST_F(References, areKeptWhenTheWindowClosesBeforeTheObject) {
+TEST_F(References, AreKeptWhenTheWindowClosesBeforeTheObject) {
   handOver();
   manager->RaiseForm();
   closeWindows();
@@ -44,7 +44,7 @@ TEST_F(References, areKeptWhenTheWindowClosesBeforeTheObject) {
   EXPECT_TRUE(letGo());
 }
 
-TEST_F(References, areLetGoWhenTheHostDestroysItsWindow) {
+TEST_F(References, AreLetGoWhenTheHostDestroysItsWindow) {
   manager->putref_Parent(form.get());
   handOver();
   manager->RaiseForm();
@@ -53,7 +53,7 @@ TEST_F(References, areLetGoWhenTheHostDestroysItsWindow) {
   EXPECT_TRUE(letGo());
 }
 
-TEST_F(References, areLetGoAtTheEndOfTheCallThatLostItsObject) {
+TEST_F(References, AreLetGoAtTheEndOfTheCallThatLostItsObject) {
   const auto host = FakeObject::make();
   host->on(L"Security", [&](Call& call) {
     manager = ComPtr<_TAManager>();
@@ -69,7 +69,7 @@ TEST_F(References, areLetGoAtTheEndOfTheCallThatLostItsObject) {
   EXPECT_TRUE(letGo());
 }
 
-TEST_F(References, areNotThereForTheNextObject) {
+TEST_F(References, AreNotThereForTheNextObject) {
   handOver();
   manager = ComPtr<_TAManager>();
   manager = create();
@@ -80,7 +80,7 @@ TEST_F(References, areNotThereForTheNextObject) {
 }
 
 // Reads the property of an object that the host lets go of meanwhile.
-TEST_F(References, anObjectLivesUntilItsPropertyIsSet) {
+TEST_F(References, AnObjectLivesUntilItsPropertyIsSet) {
   bool unloadable = true;
   const auto careless = FakeObject::make();
   careless->on(L"hWnd", [&](Call& call) {
@@ -94,7 +94,7 @@ TEST_F(References, anObjectLivesUntilItsPropertyIsSet) {
   EXPECT_EQ(dll.canUnloadNow(), S_OK);
 }
 
-TEST_F(References, boxesKeepTheirOwnerWhenAnObjectWithoutParentRaises) {
+TEST_F(References, BoxesKeepTheirOwnerWhenAnObjectWithoutParentRaises) {
   permitted = false;
   manager->putref_Parent(form.get());
   handOver();

@@ -93,7 +93,7 @@ struct Registration : ::testing::Test {
   ~Registration() override { dll.unregisterServer(); }
 };
 
-TEST_F(Registration, namesTheClassForEverybody) {
+TEST_F(Registration, NamesTheClassForEverybody) {
   ASSERT_EQ(dll.registerServer(), S_OK);
   EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\InprocServer32"), dll.path());
   EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\InprocServer32", L"ThreadingModel"),
@@ -104,7 +104,7 @@ TEST_F(Registration, namesTheClassForEverybody) {
   EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, programKey + L".1"));
 }
 
-TEST_F(Registration, letsAProgramCreateTheClassByName) {
+TEST_F(Registration, LetsAProgramCreateTheClassByName) {
   ASSERT_EQ(dll.registerServer(), S_OK);
   CLSID id{};
   ASSERT_EQ(CLSIDFromProgID(L"Pelorin.TAManager", &id), S_OK);
@@ -114,7 +114,7 @@ TEST_F(Registration, letsAProgramCreateTheClassByName) {
   EXPECT_EQ(valueOf(LateBound(object).call(L"InDesign")), Value(false));
 }
 
-TEST_F(Registration, makesTheTypeLibraryKnown) {
+TEST_F(Registration, MakesTheTypeLibraryKnown) {
   ASSERT_EQ(dll.registerServer(), S_OK);
   ComPtr<ITypeLib> library;
   EXPECT_EQ(LoadRegTypeLib(LIBID_Pelorin, 1, 0, LOCALE_NEUTRAL, library.put()), S_OK);
@@ -124,12 +124,12 @@ TEST_F(Registration, makesTheTypeLibraryKnown) {
             textOf(LIBID_Pelorin));
 }
 
-TEST_F(Registration, canBeRepeated) {
+TEST_F(Registration, CanBeRepeated) {
   EXPECT_EQ(dll.registerServer(), S_OK);
   EXPECT_EQ(dll.registerServer(), S_OK);
 }
 
-TEST_F(Registration, isTakenBackWithoutTrace) {
+TEST_F(Registration, IsTakenBackWithoutTrace) {
   ASSERT_EQ(dll.registerServer(), S_OK);
   EXPECT_EQ(dll.unregisterServer(), S_OK);
   EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey));
@@ -138,12 +138,12 @@ TEST_F(Registration, isTakenBackWithoutTrace) {
                       L"Software\\Classes\\TypeLib\\" + textOf(LIBID_Pelorin) + L"\\1.0"));
 }
 
-TEST_F(Registration, canBeTakenBackWithoutHavingBeenMade) {
+TEST_F(Registration, CanBeTakenBackWithoutHavingBeenMade) {
   EXPECT_EQ(dll.unregisterServer(), S_OK);
   EXPECT_EQ(dll.unregisterServer(), S_OK);
 }
 
-TEST_F(Registration, keepsTheSharedNamesWhileTheOtherArchitectureIsRegistered) {
+TEST_F(Registration, KeepsTheSharedNamesWhileTheOtherArchitectureIsRegistered) {
   ASSERT_EQ(dll.registerServer(), S_OK);
   {
     const OtherArchitecture other;
@@ -155,7 +155,7 @@ TEST_F(Registration, keepsTheSharedNamesWhileTheOtherArchitectureIsRegistered) {
   EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, programKey));
 }
 
-TEST_F(Registration, forTheUserAloneStaysInTheUsersPart) {
+TEST_F(Registration, ForTheUserAloneStaysInTheUsersPart) {
   ASSERT_EQ(dll.install(true, L"user"), S_OK);
   EXPECT_EQ(value(HKEY_CURRENT_USER, classKey + L"\\InprocServer32"), dll.path());
   EXPECT_TRUE(exists(HKEY_CURRENT_USER, programKey));
@@ -165,7 +165,7 @@ TEST_F(Registration, forTheUserAloneStaysInTheUsersPart) {
   EXPECT_FALSE(exists(HKEY_CURRENT_USER, programKey));
 }
 
-TEST_F(Registration, withoutRightsIsAccessDenied) {
+TEST_F(Registration, WithoutRightsIsAccessDenied) {
   ASSERT_EQ(dll.registerServer(), S_OK);
   const ReadOnlyKey key(classKey);
   EXPECT_EQ(dll.registerServer(), E_ACCESSDENIED);
@@ -173,7 +173,7 @@ TEST_F(Registration, withoutRightsIsAccessDenied) {
   EXPECT_EQ(value(HKEY_LOCAL_MACHINE, classKey + L"\\InprocServer32"), dll.path());
 }
 
-TEST_F(Registration, thatFailsLeavesAnotherCopysAsItWas) {
+TEST_F(Registration, ThatFailsLeavesAnotherCopysAsItWas) {
   const std::wstring server = classKey + L"\\InprocServer32";
   writeText(classKey, nullptr, L"another copy");
   writeText(server, nullptr, L"C:\\other\\Pelorin.dll");
@@ -191,7 +191,7 @@ TEST_F(Registration, thatFailsLeavesAnotherCopysAsItWas) {
   EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey + L"\\TypeLib"));
 }
 
-TEST_F(Registration, thatFailsLeavesNothingWhereNothingWas) {
+TEST_F(Registration, ThatFailsLeavesNothingWhereNothingWas) {
   {
     const ReadOnlyKey names(programKey);
     EXPECT_EQ(dll.registerServer(), E_ACCESSDENIED);
@@ -199,7 +199,7 @@ TEST_F(Registration, thatFailsLeavesNothingWhereNothingWas) {
   EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, classKey));
 }
 
-TEST_F(Registration, withoutAnArgumentIsForEverybody) {
+TEST_F(Registration, WithoutAnArgumentIsForEverybody) {
   ASSERT_EQ(dll.install(true, nullptr), S_OK);
   EXPECT_TRUE(exists(HKEY_LOCAL_MACHINE, classKey));
   EXPECT_EQ(dll.install(false, L""), S_OK);

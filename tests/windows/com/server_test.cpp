@@ -17,7 +17,7 @@ using ::testing::StartsWith;
 using Member = ServerTest;
 using Lifetime = ServerTest;
 
-TEST_F(Member, inDesignIsFalseAtEveryCall) {
+TEST_F(Member, InDesignIsFalseAtEveryCall) {
   for (int call = 0; call < 5; ++call) {
     VARIANT_BOOL inDesign = VARIANT_TRUE;
     EXPECT_EQ(manager->get_InDesign(&inDesign), S_OK);
@@ -28,7 +28,7 @@ TEST_F(Member, inDesignIsFalseAtEveryCall) {
   }
 }
 
-TEST_F(Member, plainMethodsSucceedByTableAndByName) {
+TEST_F(Member, PlainMethodsSucceedByTableAndByName) {
   const Bstr text(std::string_view("path"));
   EXPECT_EQ(manager->Activate(), S_OK);
   EXPECT_EQ(manager->Destroy(), S_OK);
@@ -43,7 +43,7 @@ TEST_F(Member, plainMethodsSucceedByTableAndByName) {
   EXPECT_EQ(invoke(L"Install", DISPATCH_METHOD, {Variant::text("path")}), S_OK);
 }
 
-TEST_F(Member, onEventTakesReferencesAndAnyMessageValues) {
+TEST_F(Member, OnEventTakesReferencesAndAnyMessageValues) {
   Variant number = Variant::int32(5);
   Variant wrapped;
   wrapped.vt = VT_BYREF | VT_VARIANT;
@@ -59,7 +59,7 @@ TEST_F(Member, onEventTakesReferencesAndAnyMessageValues) {
   }
 }
 
-TEST_F(Member, onEventRefusesWhatIsNoNumber) {
+TEST_F(Member, OnEventRefusesWhatIsNoNumber) {
   EXPECT_EQ(
       invoke(L"OnEvent", DISPATCH_METHOD,
              {Variant::text("no number"), Variant::int32(1), Variant::text(""), Variant::real(1),
@@ -68,7 +68,7 @@ TEST_F(Member, onEventRefusesWhatIsNoNumber) {
   EXPECT_EQ(invoke(L"OnEvent", DISPATCH_METHOD, {Variant::int32(1)}), DISP_E_BADPARAMCOUNT);
 }
 
-TEST_F(Member, textIsTakenByReferenceAndByName) {
+TEST_F(Member, TextIsTakenByReferenceAndByName) {
   Variant text = Variant::text("path");
   Variant wrapped;
   wrapped.vt = VT_BYREF | VT_VARIANT;
@@ -86,14 +86,14 @@ TEST_F(Member, textIsTakenByReferenceAndByName) {
             S_OK);
 }
 
-TEST_F(Member, unknownMembersAndWrongKindsAreRefused) {
+TEST_F(Member, UnknownMembersAndWrongKindsAreRefused) {
   EXPECT_EQ(invoke(L"NoSuchMember", DISPATCH_METHOD), DISP_E_UNKNOWNNAME);
   EXPECT_EQ(invoke(L"Parent", DISPATCH_PROPERTYGET), DISP_E_MEMBERNOTFOUND);
   EXPECT_EQ(invoke(L"InDesign", DISPATCH_PROPERTYPUT, {Variant::int32(1)}), DISP_E_MEMBERNOTFOUND);
   EXPECT_EQ(invoke(L"Activate", DISPATCH_PROPERTYGET), DISP_E_MEMBERNOTFOUND);
 }
 
-TEST_F(Member, objectPropertiesAreAssignedWithAndWithoutSet) {
+TEST_F(Member, ObjectPropertiesAreAssignedWithAndWithoutSet) {
   for (const int kind : {DISPATCH_PROPERTYPUTREF, DISPATCH_PROPERTYPUT,
                          DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF}) {
     EXPECT_EQ(invoke(L"NTConnection", static_cast<WORD>(kind), {Variant::object(services.get())}),
@@ -104,14 +104,14 @@ TEST_F(Member, objectPropertiesAreAssignedWithAndWithoutSet) {
   }
 }
 
-TEST_F(Member, objectPropertiesIgnoreWhatIsNoObject) {
+TEST_F(Member, ObjectPropertiesIgnoreWhatIsNoObject) {
   for (const wchar_t* property : {L"Parent", L"NTConnection", L"DBConnection"}) {
     EXPECT_EQ(invoke(property, DISPATCH_PROPERTYPUTREF, {Variant::int32(5)}), S_OK);
     EXPECT_EQ(invoke(property, DISPATCH_PROPERTYPUT, {Variant()}), S_OK);
   }
 }
 
-TEST_F(Member, raiseFormShowsTheSummaryOwnedByTheParent) {
+TEST_F(Member, RaiseFormShowsTheSummaryOwnedByTheParent) {
   manager->putref_Parent(form.get());
   manager->putref_NTConnection(services.get());
   manager->putref_DBConnection(ado.connection.get());
@@ -121,7 +121,7 @@ TEST_F(Member, raiseFormShowsTheSummaryOwnedByTheParent) {
   EXPECT_THAT(ado.statements, Contains("exec TA_FetchSummary"));
 }
 
-TEST_F(Member, parentThatIsNoWindowLeavesTheSummaryWithoutOwner) {
+TEST_F(Member, ParentThatIsNoWindowLeavesTheSummaryWithoutOwner) {
   manager->putref_Parent(services.get());
   manager->putref_NTConnection(services.get());
   manager->putref_DBConnection(ado.connection.get());
@@ -130,7 +130,7 @@ TEST_F(Member, parentThatIsNoWindowLeavesTheSummaryWithoutOwner) {
   EXPECT_EQ(GetWindow(summary(), GW_OWNER), nullptr);
 }
 
-TEST_F(Member, parentThatIsNoWindowKeepsTheOneBefore) {
+TEST_F(Member, ParentThatIsNoWindowKeepsTheOneBefore) {
   manager->putref_Parent(form.get());
   manager->putref_Parent(services.get());
   manager->putref_Parent(nullptr);
@@ -141,7 +141,7 @@ TEST_F(Member, parentThatIsNoWindowKeepsTheOneBefore) {
   EXPECT_EQ(GetWindow(summary(), GW_OWNER), window.get());
 }
 
-TEST_F(Member, parentIsNotHeldAndMayBeGone) {
+TEST_F(Member, ParentIsNotHeldAndMayBeGone) {
   manager->putref_Parent(form.get());
   EXPECT_EQ(form->references(), 1U);
   window.destroy();
@@ -152,7 +152,7 @@ TEST_F(Member, parentIsNotHeldAndMayBeGone) {
   EXPECT_EQ(GetWindow(summary(), GW_OWNER), nullptr);
 }
 
-TEST_F(Member, parentBelongsToOneObject) {
+TEST_F(Member, ParentBelongsToOneObject) {
   manager->putref_Parent(form.get());
   const auto other = create();
   other->putref_NTConnection(services.get());
@@ -162,7 +162,7 @@ TEST_F(Member, parentBelongsToOneObject) {
   EXPECT_EQ(GetWindow(summary(), GW_OWNER), nullptr);
 }
 
-TEST_F(Member, whatIsNoConnectionLeavesTheOneBefore) {
+TEST_F(Member, WhatIsNoConnectionLeavesTheOneBefore) {
   manager->putref_NTConnection(services.get());
   manager->putref_DBConnection(ado.connection.get());
   manager->putref_DBConnection(services.get());
@@ -171,7 +171,7 @@ TEST_F(Member, whatIsNoConnectionLeavesTheOneBefore) {
   EXPECT_THAT(ado.statements, Contains("exec TA_FetchSummary"));
 }
 
-TEST_F(Member, referencesAreSharedByAllObjects) {
+TEST_F(Member, ReferencesAreSharedByAllObjects) {
   create()->putref_NTConnection(services.get());
   create()->putref_DBConnection(ado.connection.get());
   manager->RaiseForm();
@@ -179,7 +179,7 @@ TEST_F(Member, referencesAreSharedByAllObjects) {
   EXPECT_THAT(ado.statements, Not(IsEmpty()));
 }
 
-TEST_F(Member, refusedRaiseFormShowsText3575AndNoWindow) {
+TEST_F(Member, RefusedRaiseFormShowsText3575AndNoWindow) {
   permitted = false;
   manager->putref_Parent(form.get());
   manager->putref_NTConnection(services.get());
@@ -190,7 +190,7 @@ TEST_F(Member, refusedRaiseFormShowsText3575AndNoWindow) {
   EXPECT_EQ(summary(), nullptr);
 }
 
-TEST_F(Member, raiseFormWithoutServicesReportsAndReturnsNormally) {
+TEST_F(Member, RaiseFormWithoutServicesReportsAndReturnsNormally) {
   const BoxWatcher watcher;
   EXPECT_EQ(manager->RaiseForm(), S_OK);
   EXPECT_THAT(watcher.texts(),
@@ -198,7 +198,7 @@ TEST_F(Member, raiseFormWithoutServicesReportsAndReturnsNormally) {
   EXPECT_THAT(watcher.texts(), Contains(HasSubstr("Object variable or With block variable")));
 }
 
-TEST_F(Member, raiseFormWithAFailingHostReportsAndReturnsNormally) {
+TEST_F(Member, RaiseFormWithAFailingHostReportsAndReturnsNormally) {
   const auto broken = FakeObject::make();
   broken->on(L"Security", fail(E_FAIL, L"The host is not ready."));
   manager->putref_NTConnection(broken.get());
@@ -209,7 +209,7 @@ TEST_F(Member, raiseFormWithAFailingHostReportsAndReturnsNormally) {
   }
 }
 
-TEST_F(Lifetime, objectAnswersItsInterfacesWithOneIdentity) {
+TEST_F(Lifetime, ObjectAnswersItsInterfacesWithOneIdentity) {
   ComPtr<IUnknown> first;
   ComPtr<IUnknown> second;
   ComPtr<IDispatch> automation;
@@ -224,7 +224,7 @@ TEST_F(Lifetime, objectAnswersItsInterfacesWithOneIdentity) {
   EXPECT_EQ(nothing, nullptr);
 }
 
-TEST_F(Lifetime, factoryMakesNothingElse) {
+TEST_F(Lifetime, FactoryMakesNothingElse) {
   void* object = &object;
   EXPECT_EQ(dll.getClassObject(IID_IUnknown, IID_IClassFactory, &object),
             CLASS_E_CLASSNOTAVAILABLE);
@@ -234,7 +234,7 @@ TEST_F(Lifetime, factoryMakesNothingElse) {
   EXPECT_EQ(factory->CreateInstance(nullptr, IID_IPersist, &object), E_NOINTERFACE);
 }
 
-TEST_F(Lifetime, objectsFactoriesLocksAndWindowsKeepTheDllLoaded) {
+TEST_F(Lifetime, ObjectsFactoriesLocksAndWindowsKeepTheDllLoaded) {
   EXPECT_EQ(dll.canUnloadNow(), S_FALSE);
   manager->putref_NTConnection(services.get());
   manager->putref_DBConnection(ado.connection.get());
@@ -255,7 +255,7 @@ TEST_F(Lifetime, objectsFactoriesLocksAndWindowsKeepTheDllLoaded) {
   manager = create();
 }
 
-TEST_F(Lifetime, summaryStaysWhenTheObjectIsReleased) {
+TEST_F(Lifetime, SummaryStaysWhenTheObjectIsReleased) {
   manager->putref_NTConnection(services.get());
   manager->putref_DBConnection(ado.connection.get());
   manager->RaiseForm();
@@ -263,7 +263,7 @@ TEST_F(Lifetime, summaryStaysWhenTheObjectIsReleased) {
   EXPECT_NE(summary(), nullptr);
 }
 
-TEST_F(Lifetime, objectReleasedDuringItsOwnCallStaysWhole) {
+TEST_F(Lifetime, ObjectReleasedDuringItsOwnCallStaysWhole) {
   permitted = false;
   auto only = create();
   only->putref_Parent(form.get());
@@ -281,7 +281,7 @@ TEST_F(Lifetime, objectReleasedDuringItsOwnCallStaysWhole) {
   EXPECT_THAT(watcher.texts(), Contains("refused"));
 }
 
-TEST_F(Lifetime, hostsObjectsAreGivenBack) {
+TEST_F(Lifetime, HostsObjectsAreGivenBack) {
   manager->putref_NTConnection(services.get());
   manager->putref_DBConnection(ado.connection.get());
   manager->RaiseForm();

@@ -33,13 +33,13 @@ struct ServicesTest : ::testing::Test {
   }
 };
 
-TEST_F(ServicesTest, resourceTextIsAskedForByReference) {
+TEST_F(ServicesTest, ResourceTextIsAskedForByReference) {
   host->on(L"GetResourceString", answer(Variant::text("a text")));
   EXPECT_EQ(services->GetResourceString(3575), "a text");
   EXPECT_THAT(host->calls(), ElementsAre("GetResourceString(BYREF I4 3575)"));
 }
 
-TEST_F(ServicesTest, numberWrittenBackByTheHostIsIgnored) {
+TEST_F(ServicesTest, NumberWrittenBackByTheHostIsIgnored) {
   host->on(L"GetResourceString", [](Call& call) {
     *call.arguments[0]->plVal = 99;
     return answer(Variant::int32(*call.arguments[0]->plVal))(call);
@@ -50,19 +50,19 @@ TEST_F(ServicesTest, numberWrittenBackByTheHostIsIgnored) {
               ElementsAre("GetResourceString(BYREF I4 3575)", "GetResourceString(BYREF I4 3575)"));
 }
 
-TEST_F(ServicesTest, textWithSubstitutionsGetsAllNine) {
+TEST_F(ServicesTest, TextWithSubstitutionsGetsAllNine) {
   host->on(L"GRS", answer(Variant::text("text with x")));
   EXPECT_EQ(services->GRS(5, {"x", "y"}), "text with x");
   EXPECT_THAT(host->calls(), ElementsAre("GRS(I4 5, BSTR x, BSTR y, BSTR , BSTR , BSTR , BSTR , "
                                          "BSTR , BSTR , BSTR )"));
 }
 
-TEST_F(ServicesTest, hostWithoutATextGivesAnEmptyOne) {
+TEST_F(ServicesTest, HostWithoutATextGivesAnEmptyOne) {
   host->on(L"GetResourceString", answer(Variant()));
   EXPECT_EQ(services->GetResourceString(1), "");
 }
 
-TEST_F(ServicesTest, permissionIsReadStepByStepAndSecurityOnlyOnce) {
+TEST_F(ServicesTest, PermissionIsReadStepByStepAndSecurityOnlyOnce) {
   offerSecurity(truth(VARIANT_TRUE));
   EXPECT_TRUE(services->canView(91, "Pelorin - Use"));
   EXPECT_THAT(host->calls(), ElementsAre("Security()"));
@@ -71,7 +71,7 @@ TEST_F(ServicesTest, permissionIsReadStepByStepAndSecurityOnlyOnce) {
   EXPECT_THAT(permission->calls(), ElementsAre("CanView()"));
 }
 
-TEST_F(ServicesTest, permissionIsFoundByItemInACollectionWithoutADefault) {
+TEST_F(ServicesTest, PermissionIsFoundByItemInACollectionWithoutADefault) {
   host->on(L"Security", answerObject(security));
   security->on(L"ComponentType", answer(Variant()))
       .on(L"SubPermissions", answerObject(permissions));
@@ -80,32 +80,32 @@ TEST_F(ServicesTest, permissionIsFoundByItemInACollectionWithoutADefault) {
   EXPECT_TRUE(services->canView(91, "Pelorin - Use"));
 }
 
-TEST_F(ServicesTest, permissionThatIsNotABooleanIsReadAsOne) {
+TEST_F(ServicesTest, PermissionThatIsNotABooleanIsReadAsOne) {
   offerSecurity(Variant::int32(0));
   EXPECT_FALSE(services->canView(91, "Pelorin - Use"));
 }
 
-TEST_F(ServicesTest, securityGoesBackToTheHost) {
+TEST_F(ServicesTest, SecurityGoesBackToTheHost) {
   offerSecurity(truth(VARIANT_FALSE));
   EXPECT_FALSE(services->canView(91, "Pelorin - Use"));
   EXPECT_EQ(security->references(), 2U);  // this test's and the host's
   EXPECT_EQ(permission->references(), 2U);
 }
 
-TEST_F(ServicesTest, auditEventCarriesItsIdByReferenceAndAShortCode) {
+TEST_F(ServicesTest, AuditEventCarriesItsIdByReferenceAndAShortCode) {
   host->on(L"LogEvent", answer(Variant()));
   services->LogEvent("Add", "TriggerAction", 12, "Trigger Event 5", 1184);
   EXPECT_THAT(host->calls(), ElementsAre("LogEvent(BSTR Add, BSTR TriggerAction, BYREF I4 12, "
                                          "BSTR Trigger Event 5, I2 1184)"));
 }
 
-TEST_F(ServicesTest, helpTopicIsShort) {
+TEST_F(ServicesTest, HelpTopicIsShort) {
   host->on(L"ShowHelp", answer(Variant()));
   services->ShowHelp(217);
   EXPECT_THAT(host->calls(), ElementsAre("ShowHelp(I2 217)"));
 }
 
-TEST_F(ServicesTest, flagsAndNumbersAreReadFromWhateverTypeTheHostUses) {
+TEST_F(ServicesTest, FlagsAndNumbersAreReadFromWhateverTypeTheHostUses) {
   host->on(L"EnableCustomize", answer(truth(VARIANT_TRUE)))
       .on(L"ZornIsVn8HardwareSupportEnabled", answer(Variant::int16(1)))
       .on(L"OperatorID", answer(Variant::int16(7)))
@@ -116,7 +116,7 @@ TEST_F(ServicesTest, flagsAndNumbersAreReadFromWhateverTypeTheHostUses) {
   EXPECT_EQ(services->WorkStationID(), 3);
 }
 
-TEST_F(ServicesTest, hostsErrorCarriesTheLineOfTheCaller) {
+TEST_F(ServicesTest, HostsErrorCarriesTheLineOfTheCaller) {
   host->on(L"OperatorID", fail(E_FAIL, L"host failed"));
   try {
     services->OperatorID();
@@ -127,7 +127,7 @@ TEST_F(ServicesTest, hostsErrorCarriesTheLineOfTheCaller) {
   }
 }
 
-TEST_F(ServicesTest, hostThatLetsGoOfItselfDuringACallIsHeld) {
+TEST_F(ServicesTest, HostThatLetsGoOfItselfDuringACallIsHeld) {
   auto lonely = FakeObject::make();
   auto own = std::make_shared<LateBoundServices>(ComPtr<IDispatch>(lonely.get()));
   ULONG during = 0;

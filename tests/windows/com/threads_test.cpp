@@ -80,7 +80,7 @@ class Threads : public ServerTest {
   HWND opened = nullptr;
 };
 
-TEST_F(Threads, aThreadThatEndedWithTheSummaryOpenLeavesTheComponentUsable) {
+TEST_F(Threads, AThreadThatEndedWithTheSummaryOpenLeavesTheComponentUsable) {
   for (int round = 0; round < 3; ++round) {
     HostThread other;
     raiseOn(other);
@@ -93,7 +93,7 @@ TEST_F(Threads, aThreadThatEndedWithTheSummaryOpenLeavesTheComponentUsable) {
   }
 }
 
-TEST_F(Threads, windowsOfAThreadThatEndedDoNotKeepTheDllLoaded) {
+TEST_F(Threads, WindowsOfAThreadThatEndedDoNotKeepTheDllLoaded) {
   HostThread other;
   raiseOn(other);
   manager = ComPtr<_TAManager>();
@@ -102,7 +102,7 @@ TEST_F(Threads, windowsOfAThreadThatEndedDoNotKeepTheDllLoaded) {
   EXPECT_EQ(dll.canUnloadNow(), S_OK);
 }
 
-TEST_F(Threads, aThreadThatEndedInsideACallLeavesTheComponentUsable) {
+TEST_F(Threads, AThreadThatEndedInsideACallLeavesTheComponentUsable) {
   const auto deadly = FakeObject::make();
   deadly->on(L"Security", [](Call&) -> HRESULT { ExitThread(0); });
   std::thread other([&] {
@@ -117,7 +117,7 @@ TEST_F(Threads, aThreadThatEndedInsideACallLeavesTheComponentUsable) {
   EXPECT_NE(summary(), nullptr);
 }
 
-TEST_F(Threads, whileWindowsAreOpenElsewhereMembersTellItAndDoNothing) {
+TEST_F(Threads, WhileWindowsAreOpenElsewhereMembersTellItAndDoNothing) {
   HostThread other;
   raiseOn(other);
   const std::size_t statements = ado.statements.size();
@@ -141,7 +141,7 @@ TEST_F(Threads, whileWindowsAreOpenElsewhereMembersTellItAndDoNothing) {
   EXPECT_THAT(services->calls(), IsEmpty());
 }
 
-TEST_F(Threads, whileWindowsAreOpenElsewherePropertiesDoNothingInSilence) {
+TEST_F(Threads, WhileWindowsAreOpenElsewherePropertiesDoNothingInSilence) {
   HostThread other;
   raiseOn(other);
   const BoxWatcher watcher;
@@ -156,7 +156,7 @@ TEST_F(Threads, whileWindowsAreOpenElsewherePropertiesDoNothingInSilence) {
   EXPECT_EQ(services->references(), 2U);
 }
 
-TEST_F(Threads, whoseCallIsInProgressKeepsTheComponent) {
+TEST_F(Threads, WhoseCallIsInProgressKeepsTheComponent) {
   std::promise<void> inside;
   std::promise<void> refused;
   const auto slow = FakeObject::make();
@@ -176,7 +176,7 @@ TEST_F(Threads, whoseCallIsInProgressKeepsTheComponent) {
   EXPECT_THAT(watcher.texts(), Contains(HasSubstr(" :late")));
 }
 
-TEST_F(Threads, withNoWindowOpenTheCallingThreadBecomesTheOwner) {
+TEST_F(Threads, WithNoWindowOpenTheCallingThreadBecomesTheOwner) {
   HostThread other;
   const BoxWatcher watcher;
   for (int round = 0; round < 3; ++round) {
@@ -189,7 +189,7 @@ TEST_F(Threads, withNoWindowOpenTheCallingThreadBecomesTheOwner) {
   EXPECT_THAT(watcher.texts(), IsEmpty());
 }
 
-TEST_F(Threads, referencesStayWhenTheThreadChanges) {
+TEST_F(Threads, ReferencesStayWhenTheThreadChanges) {
   handOver();
   HostThread other;
   other.perform([&] {
@@ -201,7 +201,7 @@ TEST_F(Threads, referencesStayWhenTheThreadChanges) {
   EXPECT_EQ(ado.connection->references(), 2U);
 }
 
-TEST_F(Threads, aWindowThatWentWithoutAWordCountsAsClosed) {
+TEST_F(Threads, AWindowThatWentWithoutAWordCountsAsClosed) {
   handOver();
   manager->RaiseForm();
   const HWND lost = summary();

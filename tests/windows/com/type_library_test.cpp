@@ -51,7 +51,7 @@ struct FunctionEntry {
   bool operator==(const FunctionEntry&) const = default;
 };
 
-TEST_F(TypeLibrary, hasItsNameVersionAndSystem) {
+TEST_F(TypeLibrary, HasItsNameVersionAndSystem) {
   Bstr name;
   check(library->GetDocumentation(-1, name.put(), nullptr, nullptr, nullptr));
   EXPECT_EQ(name.view(), L"Pelorin");
@@ -64,7 +64,7 @@ TEST_F(TypeLibrary, hasItsNameVersionAndSystem) {
   library->ReleaseTLibAttr(attributes);
 }
 
-TEST_F(TypeLibrary, listsTheMembersInTheirOrder) {
+TEST_F(TypeLibrary, ListsTheMembersInTheirOrder) {
   const auto table = tableOf(type(IID__TAManager));
   TYPEATTR* attributes = nullptr;
   check(table->GetTypeAttr(&attributes));
@@ -149,7 +149,7 @@ std::vector<std::string> argumentsOf(ITypeInfo* info, UINT index) {
   return arguments;
 }
 
-TEST_F(TypeLibrary, givesEveryArgumentItsNameTypeAndDirection) {
+TEST_F(TypeLibrary, GivesEveryArgumentItsNameTypeAndDirection) {
   const auto table = tableOf(type(IID__TAManager));
   const auto arguments = [&](UINT member) { return argumentsOf(table.get(), member); };
   EXPECT_THAT(arguments(0), ElementsAre("[out] [retval] BOOL* result"));
@@ -177,13 +177,13 @@ WORD flagsOf(ITypeInfo* info) {
   return flags;
 }
 
-TEST_F(TypeLibrary, hasADualInterfaceOfAutomationTypes) {
+TEST_F(TypeLibrary, HasADualInterfaceOfAutomationTypes) {
   const auto info = type(IID__TAManager);
   EXPECT_NE(flagsOf(info.get()) & TYPEFLAG_FDUAL, 0);
   EXPECT_NE(flagsOf(tableOf(info).get()) & TYPEFLAG_FOLEAUTOMATION, 0);
 }
 
-TEST_F(TypeLibrary, hasOneClassWithThatInterface) {
+TEST_F(TypeLibrary, HasOneClassWithThatInterface) {
   const auto info = type(CLSID_TAManager);
   EXPECT_EQ(nameOf(info.get(), MEMBERID_NIL), L"TAManager");
   HREFTYPE reference = 0;
@@ -203,7 +203,7 @@ struct FieldEntry {
   bool operator==(const FieldEntry&) const = default;
 };
 
-TEST_F(TypeLibrary, describesTheHostsMessageRecord) {
+TEST_F(TypeLibrary, DescribesTheHostsMessageRecord) {
   ComPtr<ITypeInfo> info;
   MEMBERID member = 0;
   USHORT found = 1;

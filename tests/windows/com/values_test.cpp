@@ -15,12 +15,12 @@ VARIANT of(VARTYPE type) {
   return variant;
 }
 
-TEST(ValueOf, emptyAndNullAreNull) {
+TEST(ValueOf, EmptyAndNullAreNull) {
   EXPECT_EQ(valueOf(of(VT_EMPTY)), Value(Null{}));
   EXPECT_EQ(valueOf(of(VT_NULL)), Value(Null{}));
 }
 
-TEST(ValueOf, integersOfEveryWidthKeepTheirSign) {
+TEST(ValueOf, IntegersOfEveryWidthKeepTheirSign) {
   VARIANT v = of(VT_I1);
   v.cVal = -3;
   EXPECT_EQ(valueOf(v), Value(std::int64_t{-3}));
@@ -47,7 +47,7 @@ TEST(ValueOf, integersOfEveryWidthKeepTheirSign) {
   EXPECT_EQ(valueOf(v), Value(18446744073709551615.0));
 }
 
-TEST(ValueOf, floatIsItsShortestText) {
+TEST(ValueOf, FloatIsItsShortestText) {
   VARIANT v = of(VT_R4);
   v.fltVal = 0.8F;
   EXPECT_EQ(toText(valueOf(v)), "0.8");
@@ -55,13 +55,13 @@ TEST(ValueOf, floatIsItsShortestText) {
   EXPECT_EQ(valueOf(v), Value(7.5));
 }
 
-TEST(ValueOf, doubleStaysExact) {
+TEST(ValueOf, DoubleStaysExact) {
   VARIANT v = of(VT_R8);
   v.dblVal = 0.1;
   EXPECT_EQ(valueOf(v), Value(0.1));
 }
 
-TEST(ValueOf, booleanIsTrueForAnythingButZero) {
+TEST(ValueOf, BooleanIsTrueForAnythingButZero) {
   VARIANT v = of(VT_BOOL);
   v.boolVal = VARIANT_TRUE;
   EXPECT_EQ(valueOf(v), Value(true));
@@ -71,7 +71,7 @@ TEST(ValueOf, booleanIsTrueForAnythingButZero) {
   EXPECT_EQ(valueOf(v), Value(false));
 }
 
-TEST(ValueOf, currencyIsWholeOrReal) {
+TEST(ValueOf, CurrencyIsWholeOrReal) {
   VARIANT v = of(VT_CY);
   v.cyVal.int64 = 120000;
   EXPECT_EQ(valueOf(v), Value(std::int64_t{12}));
@@ -79,7 +79,7 @@ TEST(ValueOf, currencyIsWholeOrReal) {
   EXPECT_EQ(valueOf(v), Value(-1.2345));
 }
 
-TEST(ValueOf, decimalIsWholeOrReal) {
+TEST(ValueOf, DecimalIsWholeOrReal) {
   Variant v;
   ASSERT_EQ(VarDecFromI8(9007199254740993, &v.decVal), S_OK);
   v.vt = VT_DECIMAL;
@@ -89,18 +89,18 @@ TEST(ValueOf, decimalIsWholeOrReal) {
   EXPECT_EQ(valueOf(v), Value(12.25));
 }
 
-TEST(ValueOf, dateKeepsItsFraction) {
+TEST(ValueOf, DateKeepsItsFraction) {
   VARIANT v = of(VT_DATE);
   v.date = 46000.25;
   EXPECT_EQ(valueOf(v), Value(Date{46000.25}));
 }
 
-TEST(ValueOf, textIsUtf8) {
+TEST(ValueOf, TextIsUtf8) {
   EXPECT_EQ(valueOf(Variant::text("T\xC3\xBCr")), Value(std::string("T\xC3\xBCr")));
   EXPECT_EQ(valueOf(of(VT_BSTR)), Value(std::string()));
 }
 
-TEST(ValueOf, bytesAreHexadecimalText) {
+TEST(ValueOf, BytesAreHexadecimalText) {
   SafeArray bytes(SafeArrayCreateVector(VT_UI1, 0, 2));
   ArrayAccess<unsigned char>(bytes.get()).elements()[1] = 0xAF;
   VARIANT v = of(VT_ARRAY | VT_UI1);
@@ -108,12 +108,12 @@ TEST(ValueOf, bytesAreHexadecimalText) {
   EXPECT_EQ(valueOf(v), Value(std::string("0x00AF")));
 }
 
-TEST(ValueOf, referencesAreFollowed) {
+TEST(ValueOf, ReferencesAreFollowed) {
   LONG number = 5;
   EXPECT_EQ(valueOf(Variant::reference(number)), Value(std::int64_t{5}));
 }
 
-TEST(ValueOf, objectsAreATypeMismatch) {
+TEST(ValueOf, ObjectsAreATypeMismatch) {
   try {
     valueOf(of(VT_DISPATCH));
     FAIL();

@@ -110,7 +110,7 @@ struct ScriptClient : ::testing::Test {
   ~ScriptClient() override { dll.unregisterServer(); }
 };
 
-TEST_F(ScriptClient, usesEveryMember) {
+TEST_F(ScriptClient, UsesEveryMember) {
   const Outcome run = runScript(L"every_member.vbs");
   ASSERT_FALSE(run.lines.empty());
   EXPECT_EQ(run.lines.back(), "passed");
@@ -119,12 +119,12 @@ TEST_F(ScriptClient, usesEveryMember) {
                                        "sql exec TA_FetchSummary", "closed"}));
 }
 
-TEST_F(ScriptClient, refusedPermissionShowsText3575) {
+TEST_F(ScriptClient, RefusedPermissionShowsText3575) {
   const Outcome run = runScript(L"every_member.vbs");
   EXPECT_THAT(run.boxes, ElementsAre("script text 3575"));
 }
 
-TEST_F(ScriptClient, getsOrdinaryErrorsForWrongUse) {
+TEST_F(ScriptClient, GetsOrdinaryErrorsForWrongUse) {
   const Outcome run = runScript(L"wrong_use.vbs");
   EXPECT_THAT(run.lines, ElementsAre("passed"));
   EXPECT_EQ(run.exitCode, scriptsOwnExitCode);
