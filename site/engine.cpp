@@ -92,6 +92,32 @@ int openFlags(Engine::Mode mode) {
   }
 }
 
+void readColumns(PreparedStatement& statement) {
+  statement.columns.clear();
+  statement.isBit.clear();
+  const int count = sqlite3_column_count(statement.handle);
+  for (int column = 0; column < count; ++column) {
+    const char* type = sqlite3_column_decltype(statement.handle, column);
+    const std::string name = sqlite3_column_name(statement.handle, column);
+    // Without "as", the engine names a computed column by its expression.
+    const bool unnamed = !type && name.find('(') != std::string::npos;
+    statement.columns.push_back(unnamed ? std::string() : name);
+    statement.isBit.push_back(type && std::string_view(type) == "bit");
+  }
+}
+
+PreparedStatement prepare(const Engine& engine, std::string_view sql, unsigned flags) {
+  if (sql.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+    throw statementError("The statement is too long.");
+  }
+  PreparedStatement statement;
+  const int result = sqlite3_prepare_v3(engine.handle(), sql.data(), static_cast<int>(sql.size()),
+                                        flags, &statement.handle, nullptr);
+  if (result != SQLITE_OK) engine.fail(result);
+  readColumns(statement);
+  return statement;
+}
+
 }  // namespace
 
 std::shared_ptr<Engine> Engine::open(const std::string& path, Mode mode) {
@@ -111,7 +137,29 @@ std::shared_ptr<Engine> Engine::open(const std::string& path, Mode mode) {
 }
 
 Engine::~Engine() {
+  for (const auto& [sql, statements] : idle_) {
+    for (const PreparedStatement& statement : statements) sqlite3_finalize(statement.handle);
+  }
   sqlite3_close_v2(database_);
+}
+
+PreparedStatement Engine::take(const std::string& sql) {
+  std::vector<PreparedStatement>& idle = idle_[sql];
+  if (idle.empty()) {
+    // Room for each that will be put back: there nothing may fail.
+    idle.reserve(idle.capacity() + 1);
+    return prepare(*this, sql, SQLITE_PREPARE_PERSISTENT);
+  }
+  PreparedStatement taken = std::move(idle.back());
+  idle.pop_back();
+  return taken;
+}
+
+void Engine::putBack(const std::string& sql, PreparedStatement idle) noexcept {
+  // Repeats the failure of the last step, which has been reported already.
+  static_cast<void>(sqlite3_reset(idle.handle));
+  sqlite3_clear_bindings(idle.handle);
+  idle_.find(sql)->second.push_back(std::move(idle));
 }
 
 void Engine::copyFrom(const Engine& other) {
@@ -157,86 +205,79 @@ void Engine::fail(int result) const {
 }
 
 EngineStatement::EngineStatement(std::shared_ptr<Engine> engine, std::string_view sql)
-    : engine_(std::move(engine)) {
-  if (sql.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
-    throw statementError("The statement is too long.");
-  }
-  const int result = sqlite3_prepare_v2(engine_->handle(), sql.data(), static_cast<int>(sql.size()),
-                                        &statement_, nullptr);
-  if (result != SQLITE_OK) engine_->fail(result);
-  readColumns();
+    : engine_(std::move(engine)), prepared_(prepare(*engine_, sql, 0)) {}
+
+EngineStatement EngineStatement::kept(std::shared_ptr<Engine> engine, const std::string& sql) {
+  PreparedStatement prepared = engine->take(sql);
+  return {std::move(engine), std::move(prepared), sql};
 }
 
 EngineStatement::~EngineStatement() {
-  sqlite3_finalize(statement_);
+  if (prepared_.handle == nullptr) return;
+  if (keptAs_ != nullptr) {
+    engine_->putBack(*keptAs_, std::move(prepared_));
+  } else {
+    sqlite3_finalize(prepared_.handle);
+  }
 }
 
 EngineStatement::EngineStatement(EngineStatement&& other) noexcept
     : engine_(std::move(other.engine_)),
-      statement_(std::exchange(other.statement_, nullptr)),
-      columns_(std::move(other.columns_)),
-      isBit_(std::move(other.isBit_)) {}
-
-void EngineStatement::readColumns() {
-  const int count = sqlite3_column_count(statement_);
-  for (int column = 0; column < count; ++column) {
-    const char* type = sqlite3_column_decltype(statement_, column);
-    const std::string name = sqlite3_column_name(statement_, column);
-    // Without "as", the engine names a computed column by its expression.
-    const bool unnamed = !type && name.find('(') != std::string::npos;
-    columns_.push_back(unnamed ? std::string() : name);
-    isBit_.push_back(type && std::string_view(type) == "bit");
-  }
-}
+      prepared_(std::exchange(other.prepared_, {})),
+      keptAs_(other.keptAs_) {}
 
 void EngineStatement::bind(int position, const Value& value) {
   int result = SQLITE_OK;
   if (const auto* number = std::get_if<std::int64_t>(&value)) {
-    result = sqlite3_bind_int64(statement_, position, *number);
+    result = sqlite3_bind_int64(prepared_.handle, position, *number);
   } else if (const auto* real = std::get_if<double>(&value)) {
-    result = sqlite3_bind_double(statement_, position, *real);
+    result = sqlite3_bind_double(prepared_.handle, position, *real);
   } else if (const auto* truth = std::get_if<bool>(&value)) {
-    result = sqlite3_bind_int(statement_, position, *truth ? 1 : 0);
+    result = sqlite3_bind_int(prepared_.handle, position, *truth ? 1 : 0);
   } else if (const auto* text = std::get_if<std::string>(&value)) {
-    result = sqlite3_bind_text64(statement_, position, text->data(), text->size(), SQLITE_TRANSIENT,
-                                 SQLITE_UTF8);
+    result = sqlite3_bind_text64(prepared_.handle, position, text->data(), text->size(),
+                                 SQLITE_TRANSIENT, SQLITE_UTF8);
   } else {
-    result = sqlite3_bind_null(statement_, position);
+    result = sqlite3_bind_null(prepared_.handle, position);
   }
   if (result != SQLITE_OK) engine_->fail(result);
 }
 
 void EngineStatement::bind(const std::string& parameter, const Value& value) {
-  const int position = sqlite3_bind_parameter_index(statement_, parameter.c_str());
+  const int position = sqlite3_bind_parameter_index(prepared_.handle, parameter.c_str());
   if (position > 0) bind(position, value);
 }
 
 bool EngineStatement::step() {
-  const int result = sqlite3_step(statement_);
+  const int result = sqlite3_step(prepared_.handle);
+  // A table was made anew meanwhile.
+  if (sqlite3_stmt_status(prepared_.handle, SQLITE_STMTSTATUS_REPREPARE, 1) > 0) {
+    readColumns(prepared_);
+  }
   if (result != SQLITE_ROW && result != SQLITE_DONE) engine_->fail(result);
   return result == SQLITE_ROW;
 }
 
 void EngineStatement::reset() {
   // Repeats the failure of the last step, which has been reported already.
-  static_cast<void>(sqlite3_reset(statement_));
+  static_cast<void>(sqlite3_reset(prepared_.handle));
 }
 
 Value EngineStatement::value(std::size_t column) const {
   const int at = static_cast<int>(column);
-  switch (sqlite3_column_type(statement_, at)) {
+  switch (sqlite3_column_type(prepared_.handle, at)) {
     case SQLITE_NULL:
       return Null{};
     case SQLITE_FLOAT:
-      return sqlite3_column_double(statement_, at);
+      return sqlite3_column_double(prepared_.handle, at);
     case SQLITE_INTEGER: {
-      const std::int64_t number = sqlite3_column_int64(statement_, at);
-      if (isBit_[column]) return number != 0;
+      const std::int64_t number = sqlite3_column_int64(prepared_.handle, at);
+      if (prepared_.isBit[column]) return number != 0;
       return number;
     }
     default: {
-      const auto* text = static_cast<const char*>(sqlite3_column_blob(statement_, at));
-      const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement_, at));
+      const auto* text = static_cast<const char*>(sqlite3_column_blob(prepared_.handle, at));
+      const auto size = static_cast<std::size_t>(sqlite3_column_bytes(prepared_.handle, at));
       return text ? std::string(text, size) : std::string();
     }
   }

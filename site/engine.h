@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -17,6 +18,13 @@ namespace pelorin::site {
 
 // The collation of the texts, as on a server.
 inline constexpr const char* serverCollation = "server_text";
+
+// A statement as the engine prepared it.
+struct PreparedStatement {
+  sqlite3_stmt* handle = nullptr;
+  std::vector<std::string> columns;
+  std::vector<bool> isBit;
+};
 
 class Engine : public std::enable_shared_from_this<Engine> {
  public:
@@ -35,6 +43,11 @@ class Engine : public std::enable_shared_from_this<Engine> {
   std::int64_t changes() const;
   sqlite3* handle() const { return database_; }
 
+  // Texts that are run again and again are prepared once for each use at the same time. What is
+  // taken is put back, reset, or finalised by who took it.
+  PreparedStatement take(const std::string& sql);
+  void putBack(const std::string& sql, PreparedStatement idle) noexcept;
+
   // Throws what the engine's result means; never returns.
   [[noreturn]] void fail(int result) const;
 
@@ -43,12 +56,15 @@ class Engine : public std::enable_shared_from_this<Engine> {
 
   sqlite3* database_;
   std::string path_;
+  std::unordered_map<std::string, std::vector<PreparedStatement>> idle_;
 };
 
 // One statement; keeps the engine open while it lives.
 class EngineStatement {
  public:
   EngineStatement(std::shared_ptr<Engine> engine, std::string_view sql);
+  // Prepared once and kept for the next use; the text has to live as long as the statement.
+  static EngineStatement kept(std::shared_ptr<Engine> engine, const std::string& sql);
   ~EngineStatement();
   EngineStatement(EngineStatement&& other) noexcept;
   EngineStatement(const EngineStatement&) = delete;
@@ -62,16 +78,17 @@ class EngineStatement {
   void reset();
 
   // Empty names for columns that are computed and not named.
-  const std::vector<std::string>& columns() const { return columns_; }
+  const std::vector<std::string>& columns() const { return prepared_.columns; }
   Value value(std::size_t column) const;  // from 0
 
  private:
-  void readColumns();
+  EngineStatement(std::shared_ptr<Engine> engine, PreparedStatement prepared,
+                  const std::string& keptAs)
+      : engine_(std::move(engine)), prepared_(std::move(prepared)), keptAs_(&keptAs) {}
 
   std::shared_ptr<Engine> engine_;
-  sqlite3_stmt* statement_ = nullptr;
-  std::vector<std::string> columns_;
-  std::vector<bool> isBit_;
+  PreparedStatement prepared_;
+  const std::string* keptAs_ = nullptr;
 };
 
 // A transaction that is undone unless it is committed.

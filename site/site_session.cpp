@@ -43,7 +43,7 @@ class StatementCursor final : public Cursor {
 
 EngineStatement prepareCall(const std::shared_ptr<site::Engine>& engine, const Procedure& procedure,
                             const std::vector<Value>& values) {
-  EngineStatement statement(engine, procedure.embeddedBody);
+  EngineStatement statement = EngineStatement::kept(engine, procedure.embeddedBody);
   for (std::size_t at = 0; at < values.size(); ++at) {
     statement.bind(procedure.parameters[at].name, values[at]);
   }
