@@ -11,9 +11,9 @@
 #include "host/window/message_loop.h"
 #include "host/window/output.h"
 #include "host/window/single_instance.h"
-#include "host/windows_api.h"
 #include "win32/com/com_error.h"
 #include "win32/text/utf16.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

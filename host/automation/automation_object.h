@@ -17,7 +17,7 @@
 #include <iterator>
 
 #include "host/automation/member_call.h"
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

@@ -4,9 +4,9 @@
 #include <atomic>
 #include <functional>
 
-#include "host/windows_api.h"
 #include "win32/com/com_error.h"
 #include "win32/com/com_ptr.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

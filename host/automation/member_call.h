@@ -5,9 +5,9 @@
 #include <string>
 
 #include "common/value.h"
-#include "host/windows_api.h"
 #include "win32/com/com_ptr.h"
 #include "win32/com/variant.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

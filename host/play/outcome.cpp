@@ -54,9 +54,9 @@ void tellRecords(const Stage& stage, const std::vector<AuditRecord>& all) {
   }
 }
 
-void tellRows(const Stage& stage, const std::string& title, const std::vector<Row>& rows) {
+void tellRows(const Stage& stage, const std::string& title, const std::vector<driver::Row>& rows) {
   stage.tell("\n" + title + ", " + std::to_string(rows.size()) + " rows:");
-  for (const Row& row : rows) {
+  for (const driver::Row& row : rows) {
     std::string line = " ";
     for (std::size_t i = 0; i < std::min(shownColumns, row.size()); ++i) {
       line += (i == 0 ? " " : " | ") + row[i];

@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "host/driver/find_window.h"
-#include "host/driver/operate.h"
-#include "host/driver/report_list.h"
-#include "host/driver/tree.h"
-#include "host/driver/waiting.h"
+#include "driver/find_window.h"
+#include "driver/operate.h"
+#include "driver/report_list.h"
+#include "driver/tree.h"
+#include "driver/waiting.h"
 
 namespace pelorin::host {
 
@@ -31,39 +31,39 @@ constexpr Trigger dvrTrigger{.event = "00036 - Panic button (reception desk)",
                              .location = "001.01.001.I01"};
 
 void close(HWND form, const std::string& button) {
-  clickButton(control(form, button));
-  waitUntilClosed(form);
+  driver::clickButton(driver::control(form, button));
+  driver::waitUntilClosed(form);
 }
 
 int rowOf(HWND grid, const Trigger& trigger) {
-  const std::vector<Row> rows = rowsOf(grid);
+  const std::vector<driver::Row> rows = driver::rowsOf(grid);
   for (std::size_t row = 0; row < rows.size(); ++row) {
     if (rows[row].at(0) == trigger.event && rows[row].at(1) == trigger.location) {
       return static_cast<int>(row);
     }
   }
-  throw DriverError(std::string("the summary has no trigger ") + trigger.event);
+  throw driver::DriverError(std::string("the summary has no trigger ") + trigger.event);
 }
 
 HWND openEditorOn(HWND summary, const Trigger& trigger) {
-  const HWND grid = control(summary, "MSFlexGrid1");
-  selectRow(grid, rowOf(grid, trigger));
-  clickButton(control(summary, "cmdAddEdit(1)"));
-  return waitForForm("frmTriggerAction");
+  const HWND grid = driver::control(summary, "MSFlexGrid1");
+  driver::selectRow(grid, rowOf(grid, trigger));
+  driver::clickButton(driver::control(summary, "cmdAddEdit(1)"));
+  return driver::waitForForm("frmTriggerAction");
 }
 
 void pictureBothTabs(const Stage& stage, HWND editor, const std::string& name) {
   stage.picture(editor, name + "-trigger");
-  chooseTab(control(editor, "SSTab1"), actionTab);
+  driver::chooseTab(driver::control(editor, "SSTab1"), actionTab);
   stage.picture(editor, name + "-action");
 }
 
 void pictureAddedDvrAction(const Stage& stage, HWND summary) {
-  clickButton(control(summary, "cmdAddEdit(0)"));
-  const HWND editor = waitForForm("frmTriggerAction");
-  chooseTab(control(editor, "SSTab1"), actionTab);
-  chooseText(control(editor, "cmbActionDeviceClass"), "DVR / NVR");
-  chooseText(control(editor, "cmbDVRUnit"), "Head office recorder");
+  driver::clickButton(driver::control(summary, "cmdAddEdit(0)"));
+  const HWND editor = driver::waitForForm("frmTriggerAction");
+  driver::chooseTab(driver::control(editor, "SSTab1"), actionTab);
+  driver::chooseText(driver::control(editor, "cmbActionDeviceClass"), "DVR / NVR");
+  driver::chooseText(driver::control(editor, "cmbDVRUnit"), "Head office recorder");
   stage.picture(editor, "editor-dvr");
   close(editor, "cmdCancel");
 }
@@ -85,12 +85,12 @@ void pictureSizes(const Stage& stage, HWND picker) {
 }
 
 void picturePicker(const Stage& stage, HWND editor) {
-  clickButton(control(editor, "cmdSingleLocation"));
-  const HWND picker = waitForForm("FLocation");
-  const HWND tree = control(picker, "tvTree");
-  clickNode(tree, openPath(tree, {std::begin(chosenDoor), std::end(chosenDoor)}));
-  const HWND status = control(picker, "lblLocation");
-  waitFor("chosen location", [&] { return textOf(status).ends_with("Post room"); });
+  driver::clickButton(driver::control(editor, "cmdSingleLocation"));
+  const HWND picker = driver::waitForForm("FLocation");
+  const HWND tree = driver::control(picker, "tvTree");
+  driver::clickNode(tree, driver::openPath(tree, {std::begin(chosenDoor), std::end(chosenDoor)}));
+  const HWND status = driver::control(picker, "lblLocation");
+  driver::waitFor("chosen location", [&] { return driver::textOf(status).ends_with("Post room"); });
   stage.picture(picker, "picker-single");
   pictureSizes(stage, picker);
   close(picker, "cmdMain(1)");
@@ -99,7 +99,7 @@ void picturePicker(const Stage& stage, HWND editor) {
 void pictureEditedCctvTrigger(const Stage& stage, HWND summary) {
   const HWND editor = openEditorOn(summary, cctvTrigger);
   pictureBothTabs(stage, editor, "edit-cctv");
-  chooseTab(control(editor, "SSTab1"), 0);
+  driver::chooseTab(driver::control(editor, "SSTab1"), 0);
   picturePicker(stage, editor);
   close(editor, "cmdCancel");
 }
@@ -113,7 +113,7 @@ void pictureEditedDvrTrigger(const Stage& stage, HWND summary) {
 }  // namespace
 
 void makePictureTour(Stage& stage) {
-  const HWND summary = waitForForm("frmTASummary");
+  const HWND summary = driver::waitForForm("frmTASummary");
   pictureAddedDvrAction(stage, summary);
   pictureEditedCctvTrigger(stage, summary);
   pictureEditedDvrTrigger(stage, summary);

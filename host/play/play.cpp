@@ -10,8 +10,8 @@
 #include "host/window/main_window.h"
 #include "host/window/message_loop.h"
 #include "host/window/output.h"
-#include "host/windows_api.h"
 #include "win32/text/utf16.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 
@@ -37,7 +37,7 @@ class TemporaryDatabase {
   std::wstring file_;
 };
 
-int playOn(const UiCalls& ui, MainWindow& window, const Options& options) noexcept {
+int playOn(const driver::UiCalls& ui, MainWindow& window, const Options& options) noexcept {
   try {
     const bool documents = !options.picturesFolder.empty();
     const std::string suffix = documents ? "-" + std::to_string(scaled(96)) : std::string();
@@ -61,7 +61,7 @@ int play(const Options& options) {
   if (own.source == Source::EmbeddedDatabase) own.database = database.path();
   MainWindow window(own);
   ShowWindow(window.handle(), SW_SHOWNORMAL);
-  std::optional<UiCalls> ui(std::in_place);
+  std::optional<driver::UiCalls> ui(std::in_place);
   std::thread player([&] {
     const int result = playOn(*ui, window, own);
     ui->post([result] { PostQuitMessage(result); });

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "host/driver/picture.h"
-#include "host/driver/waiting.h"
-#include "host/windows_api.h"
+#include "driver/picture.h"
+#include "driver/waiting.h"
 #include "win32/text/utf16.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 
@@ -15,15 +15,15 @@ std::wstring madeFolder(const std::string& folder) {
   std::wstring path = fullPath(toWide(folder));
   const int result = SHCreateDirectoryExW(nullptr, path.c_str(), nullptr);
   if (result != ERROR_SUCCESS && result != ERROR_ALREADY_EXISTS && result != ERROR_FILE_EXISTS) {
-    throw DriverError("cannot make the folder " + toUtf8(path));
+    throw driver::DriverError("cannot make the folder " + toUtf8(path));
   }
   return path;
 }
 
 }  // namespace
 
-Stage::Stage(const UiCalls& ui, HostSession& session, HWND mainWindow, const std::string& folder,
-             std::string suffix, Tell tell)
+Stage::Stage(const driver::UiCalls& ui, HostSession& session, HWND mainWindow,
+             const std::string& folder, std::string suffix, Tell tell)
     : ui_(ui),
       session_(session),
       mainWindow_(mainWindow),
@@ -36,7 +36,7 @@ void Stage::step(const std::string& text) {
 }
 
 void Stage::picture(HWND window, const std::string& name) const {
-  savePicture(window, folder_ + L"\\" + toWide(name + suffix_) + L".png");
+  driver::savePicture(window, folder_ + L"\\" + toWide(name + suffix_) + L".png");
 }
 
 }  // namespace pelorin::host

@@ -5,9 +5,9 @@
 #include <functional>
 #include <string>
 
-#include "host/driver/ui_calls.h"
+#include "driver/ui_calls.h"
 #include "host/session/host_session.h"
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 
@@ -16,10 +16,10 @@ class Stage {
   using Tell = std::function<void(const std::string&)>;
 
   // Pictures are named <folder>\<name><suffix>.png; the folder is made when missing.
-  Stage(const UiCalls& ui, HostSession& session, HWND mainWindow, const std::string& folder,
+  Stage(const driver::UiCalls& ui, HostSession& session, HWND mainWindow, const std::string& folder,
         std::string suffix, Tell tell);
 
-  const UiCalls& ui() const noexcept { return ui_; }
+  const driver::UiCalls& ui() const noexcept { return ui_; }
   HostSession& session() const noexcept { return session_; }
   HWND mainWindow() const noexcept { return mainWindow_; }
 
@@ -30,7 +30,7 @@ class Stage {
   void picture(HWND window, const std::string& name) const;
 
  private:
-  const UiCalls& ui_;
+  const driver::UiCalls& ui_;
   HostSession& session_;
   HWND mainWindow_;
   std::wstring folder_;

@@ -4,16 +4,16 @@
 
 #include <vector>
 
-#include "host/driver/report_list.h"
+#include "driver/report_list.h"
 #include "host/play/stage.h"
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 
 // What the summary showed.
 struct SummaryRows {
-  std::vector<Row> before;
-  std::vector<Row> after;
+  std::vector<driver::Row> before;
+  std::vector<driver::Row> after;
 };
 
 // DriverError when a window does not do what is expected of it.

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "controls/run_time_error.h"
-#include "host/windows_api.h"
 #include "win32/com/com_error.h"
 #include "win32/text/utf16.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
-#include "host/windows_api.h"
 #include "win32/com/late_bound.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

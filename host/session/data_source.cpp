@@ -8,12 +8,12 @@
 #include "host/core/embedded_connection.h"
 #include "host/core/watched_connection.h"
 #include "host/odbc/odbc_connection.h"
-#include "host/windows_api.h"
 #include "site/site_database.h"
 #include "win32/com/ado_connection.h"
 #include "win32/com/com_error.h"
 #include "win32/com/late_bound.h"
 #include "win32/text/utf16.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

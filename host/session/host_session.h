@@ -17,7 +17,7 @@
 #include "host/session/component.h"
 #include "host/session/data_source.h"
 #include "host/session/services_object.h"
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

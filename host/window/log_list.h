@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <string>
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "host/window/main_window.h"
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

@@ -1,7 +1,7 @@
 // The host's message loop, which also drives the component's windows.
 #pragma once
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

@@ -1,8 +1,8 @@
 #include "host/window/output.h"
 
 #include "host/window/window.h"
-#include "host/windows_api.h"
 #include "win32/text/utf16.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

@@ -1,7 +1,7 @@
 // One host at a time for each user.
 #pragma once
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::host {
 

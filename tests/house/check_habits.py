@@ -7,10 +7,10 @@ import re
 from project import CODE, ROOT, files, finish, numbered, text
 
 # The guard turns an error into a report; at the boundaries nothing may pass into foreign code.
-CATCHERS = ("common/", "addin/", "win32/", "host/", "site/", "tests/", "benches/", "tools/")
+CATCHERS = ("common/", "addin/", "win32/", "driver/", "host/", "site/", "tests/", "benches/", "tools/")
 PRINTERS = ("host/", "site/", "tests/", "benches/", "tools/")
-OUTSIDE = ("host/", "drive/", "site/", "tests/", "benches/", "tools/")
-BOUNDARIES = ("win32/", "addin/", "host/", "tests/")
+OUTSIDE = ("host/", "driver/", "site/", "tests/", "benches/", "tools/")
+BOUNDARIES = ("win32/", "addin/", "driver/", "host/", "tests/")
 CLOCK = r"(\bGetTickCount\(|\w+_clock\b|\bQueryPerformanceCounter|\bclock_gettime|\btimeGetTime)"
 
 RULES = [

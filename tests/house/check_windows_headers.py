@@ -5,7 +5,7 @@ import re
 
 from project import CODE, files, finish, numbered
 
-ROOMS = ("win32/", "addin/", "host/", "tests/win32/", "tests/addin/", "tests/host/", "tests/windows/")
+ROOMS = ("win32/", "addin/", "driver/", "host/", "tests/win32/", "tests/addin/", "tests/host/", "tests/windows/")
 HEADER = re.compile(
     r"\s*#\s*include\s+<((win[a-z0-9]*|ole[a-z0-9]*|oaidl|objbase|objidl|ocidl|unknwn|wtypes|initguid|activscp|dispex"
     r"|comm(ctrl|dlg)|comdef|com[a-z]*utils?|shl[a-z]*|shell[a-z]*|uxtheme|dwmapi|gdiplus|richedit|htmlhelp|tlhelp32"
@@ -21,9 +21,9 @@ def main():
         for number, line in numbered(name):
             match = HEADER.match(line)
             if match:
-                problems.append(f"{name}:{number}: <{match.group(1)}> outside {', '.join(ROOMS[:3])}")
+                problems.append(f"{name}:{number}: <{match.group(1)}> outside {', '.join(ROOMS[:4])}")
             elif MACRO.search(line):
-                problems.append(f"{name}:{number}: code that is different on Windows belongs to {', '.join(ROOMS[:3])}")
+                problems.append(f"{name}:{number}: code that is different on Windows belongs to {', '.join(ROOMS[:4])}")
     finish(problems)
 
 

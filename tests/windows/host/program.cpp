@@ -5,8 +5,8 @@
 #include <iterator>
 #include <stdexcept>
 
-#include "host/driver/find_window.h"
-#include "host/driver/waiting.h"
+#include "driver/find_window.h"
+#include "driver/waiting.h"
 #include "win32/text/utf16.h"
 
 namespace pelorin::test {
@@ -43,7 +43,7 @@ struct WindowSearch {
 };
 
 BOOL CALLBACK addLabel(HWND child, LPARAM address) noexcept {
-  *reinterpret_cast<std::string*>(address) += host::textOf(child) + "\n";
+  *reinterpret_cast<std::string*>(address) += driver::textOf(child) + "\n";
   return TRUE;
 }
 
@@ -94,7 +94,7 @@ Program::~Program() {
 }
 
 HWND Program::waitForWindow(const wchar_t* className, const wchar_t* title) const {
-  return host::waitFor(toUtf8(className), [&] {
+  return driver::waitFor(toUtf8(className), [&] {
     WindowSearch search{process_.dwProcessId, className, title};
     EnumWindows(&WindowSearch::step, reinterpret_cast<LPARAM>(&search));
     return search.found;

@@ -6,11 +6,11 @@
 namespace pelorin::test {
 namespace {
 
-using host::chooseTab;
-using host::chooseText;
-using host::control;
-using host::textOf;
-using host::waitFor;
+using driver::chooseTab;
+using driver::chooseText;
+using driver::control;
+using driver::textOf;
+using driver::waitFor;
 using testing::ElementsAre;
 
 constexpr const char* callCamera = "Call camera to monitor";
@@ -32,23 +32,23 @@ class ActionTabJourney : public Journey {
   }
   std::string chosen(const char* combo) {
     const HWND window = control(editor, combo);
-    return host::comboRows(window).at(static_cast<std::size_t>(host::comboRow(window)));
+    return driver::comboRows(window).at(static_cast<std::size_t>(driver::comboRow(window)));
   }
   std::vector<std::string> offered(const char* combo) {
-    return host::comboRows(control(editor, combo));
+    return driver::comboRows(control(editor, combo));
   }
   // Types over what the box holds.
   void type(const std::string& text) {
     const HWND box = control(editor, "txtDVRAlarmDuration");
     RECT area{};
     GetClientRect(box, &area);
-    host::clickAt(box, host::middleOf(area));
+    driver::clickAt(box, driver::middleOf(area));
     SendMessageW(box, EM_SETSEL, 0, -1);
-    host::typeText(box, text);
+    driver::typeText(box, text);
   }
   std::string seconds() { return textOf(control(editor, "txtDVRAlarmDuration")); }
   void leaveFor(const std::string& expected) {
-    host::pressKey(control(editor, "txtDVRAlarmDuration"), VK_TAB);
+    driver::pressKey(control(editor, "txtDVRAlarmDuration"), VK_TAB);
     waitFor(expected + " seconds", [&] { return seconds() == expected; });
   }
 
@@ -90,7 +90,7 @@ TEST_F(ActionTabJourney, TheDurationIsBroughtIntoItsLimitsWhenItsBoxIsLeft) {
   type("\b");
   EXPECT_EQ(seconds(), "");
   leaveFor("5");
-  EXPECT_FALSE(host::findBox());
+  EXPECT_FALSE(driver::findBox());
 }
 
 TEST_F(ActionTabJourney, ARecorderWithoutDurationGreysItAndThePresetsAndAnotherBringsThemBack) {
@@ -112,9 +112,9 @@ TEST_F(ActionTabJourney, ARecorderWithoutDurationIsSavedWithNone) {
   chooseTab(control(editor, "SSTab1"), 0);
   checkEvents(editor, {"00003"});
   addDoors(editor, {"Post room"});
-  host::clickButton(control(editor, "cmdOK"));
-  host::waitUntilClosed(editor);
-  EXPECT_FALSE(host::findBox());
+  driver::clickButton(control(editor, "cmdOK"));
+  driver::waitUntilClosed(editor);
+  EXPECT_FALSE(driver::findBox());
   EXPECT_EQ(
       stored("select * from DVR_TriggerActions (NOLOCK) where DVRActionID = 6", "AlarmDuration"),
       "0");

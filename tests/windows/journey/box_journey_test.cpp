@@ -12,12 +12,12 @@
 namespace pelorin::test {
 namespace {
 
-using host::answerBox;
-using host::clickButton;
-using host::control;
-using host::OpenBox;
-using host::waitFor;
-using host::waitForBox;
+using driver::answerBox;
+using driver::clickButton;
+using driver::control;
+using driver::OpenBox;
+using driver::waitFor;
+using driver::waitForBox;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -34,12 +34,12 @@ class BoxJourney : public Journey {
   }
 
   void untickAnswering(HWND editor, int button) {
-    host::pressKey(control(editor, "lstEventFilters"), VK_SPACE);
+    driver::pressKey(control(editor, "lstEventFilters"), VK_SPACE);
     const OpenBox box = waitForBox();
     EXPECT_EQ(boxLook(box.window), "question: Yes* No");
     EXPECT_THAT(box.text, StartsWith("There are events of this type selected."));
     PostMessageW(box.window, WM_COMMAND, static_cast<WPARAM>(button), 0);
-    host::waitUntilClosed(box.window);
+    driver::waitUntilClosed(box.window);
     waitFor("editor to be operated again", [&] { return IsWindowEnabled(editor); });
   }
 
@@ -63,13 +63,13 @@ TEST_F(BoxJourney, TheTreeThatCouldNotBeBuiltHasABoxWithoutIconAfterItsReport) {
   clickButton(control(editor, "cmdAddLocation"));
   EXPECT_THAT(expectLook("critical: OK*"), StartsWith("RefreshHardware: Line: "));
   EXPECT_EQ(expectLook("none: OK*"), "error in refreshhardware");
-  const HWND picker = host::waitForForm("FLocation");
+  const HWND picker = driver::waitForForm("FLocation");
   const HWND tree = control(picker, "tvTree");
-  const std::vector<HTREEITEM> roots = host::childrenOf(tree, nullptr);
+  const std::vector<HTREEITEM> roots = driver::childrenOf(tree, nullptr);
   ASSERT_EQ(roots.size(), 1U);
-  EXPECT_EQ(host::nodeText(tree, roots.front()), " Hardware");
+  EXPECT_EQ(driver::nodeText(tree, roots.front()), " Hardware");
   clickButton(control(picker, "cmdMain(1)"));
-  host::waitUntilClosed(picker);
+  driver::waitUntilClosed(picker);
 }
 
 TEST_F(BoxJourney, ReportsBeyondTheTenthAreCountedInACriticalOne) {
@@ -102,13 +102,13 @@ TEST_F(BoxJourney, TakingOutChosenEventsIsAQuestionAndNoKeepsThem) {
   checkEvents(editor, {"00001"});
   const HWND categories = control(editor, "lstEventFilters");
   const HWND events = control(editor, "lvwEvents");
-  const int listed = host::rowCount(events);
+  const int listed = driver::rowCount(events);
   untickAnswering(editor, IDNO);
-  EXPECT_TRUE(host::isTicked(categories, 0));
-  EXPECT_EQ(host::rowCount(events), listed);
+  EXPECT_TRUE(driver::isTicked(categories, 0));
+  EXPECT_EQ(driver::rowCount(events), listed);
   untickAnswering(editor, IDYES);
-  waitFor("no event", [&] { return host::rowCount(events) == 0; });
-  EXPECT_FALSE(host::isTicked(categories, 0));
+  waitFor("no event", [&] { return driver::rowCount(events) == 0; });
+  EXPECT_FALSE(driver::isTicked(categories, 0));
 }
 
 TEST_F(BoxJourney, AnErrorOfAMemberHasABoxWithoutIcon) {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "host/driver/find_window.h"
+#include "driver/find_window.h"
 
 namespace pelorin::test {
 
@@ -33,7 +33,7 @@ Pixels drawn(HICON icon) {
 HICON iconOf(HWND box) {
   for (HWND part = GetWindow(box, GW_CHILD); part != nullptr; part = GetWindow(part, GW_HWNDNEXT)) {
     const LONG kind = GetWindowLongW(part, GWL_STYLE) & SS_TYPEMASK;
-    if (host::classOf(part) != L"Static" || kind != SS_ICON) continue;
+    if (driver::classOf(part) != L"Static" || kind != SS_ICON) continue;
     return reinterpret_cast<HICON>(SendMessageW(part, STM_GETICON, 0, 0));
   }
   return nullptr;
@@ -75,7 +75,7 @@ std::string buttonName(int id) {
 std::string boxLook(HWND box) {
   std::string look = iconName(iconOf(box)) + ":";
   for (HWND part = GetWindow(box, GW_CHILD); part != nullptr; part = GetWindow(part, GW_HWNDNEXT)) {
-    if (host::classOf(part) != L"Button" || !IsWindowVisible(part)) continue;
+    if (driver::classOf(part) != L"Button" || !IsWindowVisible(part)) continue;
     const bool isDefault = (GetWindowLongW(part, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
     look += " " + buttonName(GetDlgCtrlID(part)) + (isDefault ? "*" : "");
   }

@@ -9,10 +9,10 @@
 namespace pelorin::test {
 namespace {
 
-using host::clickButton;
-using host::control;
-using host::textOf;
-using host::waitFor;
+using driver::clickButton;
+using driver::control;
+using driver::textOf;
+using driver::waitFor;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -53,7 +53,7 @@ class CaptionsJourney : public Journey {
   }
   void reopen() {
     clickButton(control(picker, "cmdMain(1)"));
-    host::waitUntilClosed(picker);
+    driver::waitUntilClosed(picker);
     picker = openPicker(editor, "cmdAddLocation");
   }
   static bool menuIsOpen() {
@@ -63,20 +63,20 @@ class CaptionsJourney : public Journey {
   void pick(Entry entry) {
     PostMessageW(picker, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(picker), MAKELPARAM(-1, -1));
     waitFor("context menu", menuIsOpen);
-    for (int step = 0; step < entry; ++step) host::pressKey(picker, VK_DOWN);
-    host::pressKey(picker, VK_RETURN);
+    for (int step = 0; step < entry; ++step) driver::pressKey(picker, VK_DOWN);
+    driver::pressKey(picker, VK_RETURN);
     waitFor("end of the context menu", [] { return !menuIsOpen(); });
   }
   HWND box() { return control(picker, "txtCaption"); }
   void edit(const char* name, const std::string& caption, WORD key) {
     clickButton(control(picker, name));
-    waitFor("text box", [&] { return host::isShown(box()); });
+    waitFor("text box", [&] { return driver::isShown(box()); });
     EXPECT_EQ(textOf(box()), textOf(control(picker, name)));
-    EXPECT_FALSE(host::isShown(control(picker, "Label1")));
+    EXPECT_FALSE(driver::isShown(control(picker, "Label1")));
     SendMessageW(box(), EM_SETSEL, 0, -1);
-    host::typeText(box(), caption);
-    host::pressKey(box(), key);
-    waitFor("end of the text box", [&] { return !host::isShown(box()); });
+    driver::typeText(box(), caption);
+    driver::pressKey(box(), key);
+    waitFor("end of the text box", [&] { return !driver::isShown(box()); });
   }
   std::string help() { return textOf(control(picker, "cmdMain(2)")); }
   void waitForFile(const std::string& part, bool holds) {
@@ -119,11 +119,11 @@ TEST_F(CaptionsJourney, ButtonsActAgainAfterTheEditing) {
   open();
   pick(Customise);
   edit("cmdMain(1)", "Do&ne", VK_RETURN);
-  EXPECT_TRUE(host::isShown(picker));
+  EXPECT_TRUE(driver::isShown(picker));
   pick(EndCustomising);
   waitForFile("cmdMain(1)=Do&ne\r\n", true);
   clickButton(control(picker, "cmdMain(1)"));
-  host::waitUntilClosed(picker);
+  driver::waitUntilClosed(picker);
 }
 
 TEST_F(CaptionsJourney, AHostThatCustomisesNothingOffersNoEditing) {

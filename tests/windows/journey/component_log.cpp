@@ -6,7 +6,7 @@
 #include <iterator>
 #include <sstream>
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::test {
 

@@ -5,9 +5,9 @@
 namespace pelorin::test {
 namespace {
 
-using host::clickButton;
-using host::control;
-using host::waitFor;
+using driver::clickButton;
+using driver::control;
+using driver::waitFor;
 using testing::ElementsAre;
 
 class DeviceLocationsJourney : public Journey {
@@ -15,17 +15,17 @@ class DeviceLocationsJourney : public Journey {
   HTREEITEM device(const std::vector<std::string>& below) {
     std::vector<std::string> path{" Hardware", " Interface Configuration (HEADOFFICE)"};
     path.insert(path.end(), below.begin(), below.end());
-    return host::openPath(tree, path);
+    return driver::openPath(tree, path);
   }
   void add(const std::vector<std::string>& below) {
-    const int before = host::rowCount(locations);
-    host::doubleClickNode(tree, device(below));
-    waitFor(below.back(), [&] { return host::rowCount(locations) == before + 1; });
+    const int before = driver::rowCount(locations);
+    driver::doubleClickNode(tree, device(below));
+    waitFor(below.back(), [&] { return driver::rowCount(locations) == before + 1; });
   }
   void tryToAdd(const std::vector<std::string>& below) {
-    host::doubleClickNode(tree, device(below));
+    driver::doubleClickNode(tree, device(below));
     waitFor("no location",
-            [&] { return host::textOf(control(picker, "lblLocation")) == "<None>"; });
+            [&] { return driver::textOf(control(picker, "lblLocation")) == "<None>"; });
   }
   void openTree() {
     editor = openEditor();
@@ -36,9 +36,9 @@ class DeviceLocationsJourney : public Journey {
   }
   void save() {
     clickButton(control(picker, "cmdMain(1)"));
-    host::waitUntilClosed(picker);
+    driver::waitUntilClosed(picker);
     clickButton(control(editor, "cmdOK"));
-    host::waitUntilClosed(editor);
+    driver::waitUntilClosed(editor);
   }
   std::string cctv(int id, const char* column) {
     return stored("select * from CCTV_TriggerAction where TA_ID = " + std::to_string(id), column);
@@ -80,7 +80,7 @@ TEST_F(DeviceLocationsJourney, FoldersAccountsAndAreasAreNoLocations) {
   tryToAdd({"Central Stations", "Account Management", "Jeweller Market Street"});
   tryToAdd({"Central Stations", "Account Management", "Jeweller Market Street", "Show room"});
   add({"DVR", "Car park recorder"});
-  EXPECT_THAT(host::rowsOf(locations), ElementsAre(ElementsAre("001.DVR02 - Car park recorder")));
+  EXPECT_THAT(driver::rowsOf(locations), ElementsAre(ElementsAre("001.DVR02 - Car park recorder")));
 }
 
 }  // namespace

@@ -3,12 +3,12 @@
 namespace pelorin::test {
 namespace {
 
-using host::chooseTab;
-using host::chooseText;
-using host::clickButton;
-using host::control;
-using host::textOf;
-using host::waitFor;
+using driver::chooseTab;
+using driver::chooseText;
+using driver::clickButton;
+using driver::control;
+using driver::textOf;
+using driver::waitFor;
 using testing::Contains;
 using testing::ElementsAre;
 
@@ -21,20 +21,20 @@ class EditorJourney : public Journey {
   }
   std::string chosen(HWND editor, const char* combo) {
     const HWND window = control(editor, combo);
-    const int row = host::comboRow(window);
-    return row < 0 ? "" : host::comboRows(window).at(static_cast<std::size_t>(row));
+    const int row = driver::comboRow(window);
+    return row < 0 ? "" : driver::comboRows(window).at(static_cast<std::size_t>(row));
   }
   void waitForRows(int count) {
-    waitFor(std::to_string(count) + " rows", [&] { return host::rowCount(grid()) == count; });
+    waitFor(std::to_string(count) + " rows", [&] { return driver::rowCount(grid()) == count; });
   }
 };
 
 TEST_F(EditorJourney, WithoutALocationNothingIsSavedAndTheEditorStays) {
   const HWND editor = openEditor();
   clickButton(control(editor, "cmdOK"));
-  EXPECT_EQ(host::answerBox().text,
+  EXPECT_EQ(driver::answerBox().text,
             "Required field missing. Must specify one or more trigger locations.");
-  EXPECT_TRUE(host::isShown(editor));
+  EXPECT_TRUE(driver::isShown(editor));
   EXPECT_THAT(audit(), testing::IsEmpty());
 }
 
@@ -56,7 +56,7 @@ TEST_F(EditorJourney, ApplySavesAnEditedCctvTriggerAndLeavesTheEditorOpen) {
   waitFor("audit record", [&] { return audit().size() == 1; });
   EXPECT_THAT(audit(), ElementsAre("Update TriggerAction 2 Trigger Event 2 1185"));
   EXPECT_EQ(stored(cctvTrigger2, "Monitor"), "5");
-  EXPECT_TRUE(host::isShown(editor));
+  EXPECT_TRUE(driver::isShown(editor));
 }
 
 TEST_F(EditorJourney, CancelLeavesTheDatabaseAsItWas) {
@@ -64,14 +64,14 @@ TEST_F(EditorJourney, CancelLeavesTheDatabaseAsItWas) {
   chooseTab(control(editor, "SSTab1"), 1);
   choose(editor, "cmbCCTVMonitors", "5");
   clickButton(control(editor, "cmdCancel"));
-  host::waitUntilClosed(editor);
+  driver::waitUntilClosed(editor);
   EXPECT_EQ(stored(cctvTrigger2, "Monitor"), "2");
   EXPECT_THAT(audit(), testing::IsEmpty());
 }
 
 TEST_F(EditorJourney, ApplyTwiceInAddModeMakesTheRowsTwice) {
   const HWND editor = openEditor();
-  const int before = host::rowCount(grid());
+  const int before = driver::rowCount(grid());
   checkEvents(editor, {"00003"});
   addDoors(editor, {"Post room"});
   clickButton(control(editor, "cmdApply"));
@@ -84,15 +84,15 @@ TEST_F(EditorJourney, ApplyTwiceInAddModeMakesTheRowsTwice) {
 
 TEST_F(EditorJourney, ADvrTriggerIsAddedThroughTheCommandWithItsOutputParameter) {
   const HWND editor = openEditor();
-  const int before = host::rowCount(grid());
+  const int before = driver::rowCount(grid());
   checkEvents(editor, {"00003"});
   addDoors(editor, {"Post room"});
   chooseTab(control(editor, "SSTab1"), 1);
   choose(editor, "cmbActionDeviceClass", "DVR / NVR");
   choose(editor, "cmbDVRUnit", "Head office recorder");
   clickButton(control(editor, "cmdOK"));
-  host::waitUntilClosed(editor);
-  EXPECT_EQ(host::rowCount(grid()), before + 1);
+  driver::waitUntilClosed(editor);
+  EXPECT_EQ(driver::rowCount(grid()), before + 1);
   EXPECT_THAT(statements(), Contains("pav_AddDeviceTrigger '001.01.001.D04', 00003, 6, 1"));
   EXPECT_THAT(audit(), ElementsAre("Add TriggerAction 6 Trigger Event 3 1184"));
   EXPECT_EQ(
@@ -106,7 +106,7 @@ TEST_F(EditorJourney, AnEditedDvrTriggerIsSavedByOk) {
   EXPECT_EQ(textOf(control(editor, "txtDVRAlarmDuration")), "30");
   choose(editor, "cmbDVRRecordRate", "30.0 ips");
   clickButton(control(editor, "cmdOK"));
-  host::waitUntilClosed(editor);
+  driver::waitUntilClosed(editor);
   EXPECT_EQ(stored("select * from DVR_TriggerActions (NOLOCK) where DVRActionID = 1", "RecordRate"),
             "30");
   EXPECT_THAT(audit(), ElementsAre("Update TriggerAction 0 Trigger Event 36 1185"));
@@ -114,18 +114,18 @@ TEST_F(EditorJourney, AnEditedDvrTriggerIsSavedByOk) {
 
 TEST_F(EditorJourney, WithoutAnEventAnEditedTriggerIsNotSaved) {
   const HWND editor = openEditorOn("00002 - Door open too long", "001.01.001.D01");
-  host::tickRow(control(editor, "lstEventFilters"), 0);
+  driver::tickRow(control(editor, "lstEventFilters"), 0);
   waitFor("no event offered",
-          [&] { return host::comboRows(control(editor, "cmbEvents")).empty(); });
+          [&] { return driver::comboRows(control(editor, "cmbEvents")).empty(); });
   clickButton(control(editor, "cmdOK"));
-  EXPECT_EQ(host::answerBox().text, "Required field missing. Must specify event.");
-  EXPECT_TRUE(host::isShown(editor));
+  EXPECT_EQ(driver::answerBox().text, "Required field missing. Must specify event.");
+  EXPECT_TRUE(driver::isShown(editor));
 }
 
 TEST_F(EditorJourney, EscapeClosesTheEditorLikeCancel) {
   const HWND editor = openEditor();
-  host::pressKey(control(editor, "lvwEvents"), VK_ESCAPE);
-  host::waitUntilClosed(editor);
+  driver::pressKey(control(editor, "lvwEvents"), VK_ESCAPE);
+  driver::waitUntilClosed(editor);
   EXPECT_THAT(audit(), testing::IsEmpty());
 }
 

@@ -6,9 +6,9 @@
 namespace pelorin::test {
 namespace {
 
-using host::clickButton;
-using host::control;
-using host::waitFor;
+using driver::clickButton;
+using driver::control;
+using driver::waitFor;
 using testing::Each;
 
 constexpr int guardCategory = 6;
@@ -19,8 +19,8 @@ class EventsJourney : public Journey {
   HWND filters() { return control(editor, "lstEventFilters"); }
   std::vector<bool> checks() {
     std::vector<bool> states;
-    for (int row = 0; row < host::rowCount(events()); ++row) {
-      states.push_back(host::isRowChecked(events(), row));
+    for (int row = 0; row < driver::rowCount(events()); ++row) {
+      states.push_back(driver::isRowChecked(events(), row));
     }
     return states;
   }
@@ -38,12 +38,12 @@ class EventsJourney : public Journey {
     return select;
   }
   void listGuardEvents() {
-    host::tickRow(filters(), guardCategory);
-    waitFor("events", [&] { return host::rowCount(events()) > 0; });
+    driver::tickRow(filters(), guardCategory);
+    waitFor("events", [&] { return driver::rowCount(events()) > 0; });
   }
   void untickAndAnswer(int button) {
-    host::tickRow(filters(), guardCategory);
-    EXPECT_EQ(host::answerBox(button).text,
+    driver::tickRow(filters(), guardCategory);
+    EXPECT_EQ(driver::answerBox(button).text,
               "There are events of this type selected. Would you like to unselect them?");
     waitFor("editor to be operated again", [&] { return IsWindowEnabled(editor); });
   }
@@ -52,7 +52,7 @@ class EventsJourney : public Journey {
     waitFor(title, [&] {
       const HWND help = FindWindowW(L"PelorinHostHelp", nullptr);
       const HWND page = FindWindowExW(help, nullptr, L"EDIT", nullptr);
-      return page != nullptr && host::textOf(page).starts_with(title);
+      return page != nullptr && driver::textOf(page).starts_with(title);
     });
   }
 
@@ -72,10 +72,10 @@ TEST_F(EventsJourney, WhatSelectAllTicksIsSavedEventByEvent) {
   editor = openEditor();
   listGuardEvents();
   press("cmdSelect(0)", true);
-  const auto listed = static_cast<std::size_t>(host::rowCount(events()));
+  const auto listed = static_cast<std::size_t>(driver::rowCount(events()));
   addDoors(editor, {"Post room"});
   clickButton(control(editor, "cmdOK"));
-  host::waitUntilClosed(editor);
+  driver::waitUntilClosed(editor);
   EXPECT_EQ(audit().size(), listed);
   EXPECT_THAT(audit(), Each(testing::StartsWith("Add TriggerAction 0 Trigger Event 6")));
 }
@@ -83,22 +83,22 @@ TEST_F(EventsJourney, WhatSelectAllTicksIsSavedEventByEvent) {
 TEST_F(EventsJourney, UntickingACategoryWithChosenEventsTakesThemAwayOnYes) {
   editor = openEditor();
   listGuardEvents();
-  host::clickCheck(events(), 1);
+  driver::clickCheck(events(), 1);
   untickAndAnswer(IDYES);
-  waitFor("no event", [&] { return host::rowCount(events()) == 0; });
-  EXPECT_FALSE(host::isTicked(filters(), guardCategory));
+  waitFor("no event", [&] { return driver::rowCount(events()) == 0; });
+  EXPECT_FALSE(driver::isTicked(filters(), guardCategory));
   EXPECT_FALSE(buttonsEnabled());
 }
 
 TEST_F(EventsJourney, UntickingACategoryWithChosenEventsChangesNothingOnNo) {
   editor = openEditor();
   listGuardEvents();
-  host::clickCheck(events(), 1);
-  const std::vector<host::Row> rows = host::rowsOf(events());
+  driver::clickCheck(events(), 1);
+  const std::vector<driver::Row> rows = driver::rowsOf(events());
   const std::vector<bool> before = checks();
   untickAndAnswer(IDNO);
-  waitFor("tick", [&] { return host::isTicked(filters(), guardCategory); });
-  EXPECT_EQ(host::rowsOf(events()), rows);
+  waitFor("tick", [&] { return driver::isTicked(filters(), guardCategory); });
+  EXPECT_EQ(driver::rowsOf(events()), rows);
   EXPECT_EQ(checks(), before);
   EXPECT_TRUE(buttonsEnabled());
 }
@@ -106,15 +106,15 @@ TEST_F(EventsJourney, UntickingACategoryWithChosenEventsChangesNothingOnNo) {
 TEST_F(EventsJourney, UntickingACategoryWithoutChosenEventsAsksNothing) {
   editor = openEditor();
   listGuardEvents();
-  host::tickRow(filters(), guardCategory);
-  waitFor("no event", [&] { return host::rowCount(events()) == 0; });
-  EXPECT_FALSE(host::findBox());
+  driver::tickRow(filters(), guardCategory);
+  waitFor("no event", [&] { return driver::rowCount(events()) == 0; });
+  EXPECT_FALSE(driver::findBox());
 }
 
 TEST_F(EventsJourney, HelpIsThatOfTheTabInSight) {
   editor = openEditor();
   expectHelp("The Trigger tab");
-  host::chooseTab(control(editor, "SSTab1"), 1);
+  driver::chooseTab(control(editor, "SSTab1"), 1);
   expectHelp("The Action tab");
 }
 

@@ -15,9 +15,9 @@
 namespace pelorin::test {
 namespace {
 
-using host::clickButton;
-using host::control;
-using host::waitFor;
+using driver::clickButton;
+using driver::control;
+using driver::waitFor;
 using testing::AllOf;
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -58,11 +58,11 @@ class FailingServicesJourney : public Journey {
   }
   // One box, which is also the one line in the log; then the form is there to be operated.
   HWND expectReport(const std::string& procedure, const std::string& form) {
-    const host::OpenBox box = host::answerBox();
+    const driver::OpenBox box = driver::answerBox();
     EXPECT_THAT(box.text, AllOf(StartsWith(procedure + ": Line: "), HasSubstr("The host is busy")));
-    const HWND window = host::waitForForm(form);
+    const HWND window = driver::waitForForm(form);
     waitFor(form + " to be operated", [&] { return IsWindowEnabled(window); });
-    EXPECT_FALSE(host::findBox());
+    EXPECT_FALSE(driver::findBox());
     EXPECT_THAT(log.newLines(), testing::ElementsAre(EndsWith(": " + box.text)));
     return window;
   }
@@ -70,7 +70,7 @@ class FailingServicesJourney : public Journey {
   // As openEditorOn, for an editor that has a report to show first.
   void pressEditOn(const std::string& triggerText, const std::string& location) {
     const HWND summary = openSummary();
-    host::selectRow(grid(), summaryRow(triggerText, location));
+    driver::selectRow(grid(), summaryRow(triggerText, location));
     clickButton(control(summary, "cmdAddEdit(1)"));
   }
   void prepareTrigger(HWND editor) {
@@ -91,11 +91,11 @@ constexpr int firstAdded = 9;
 TEST_F(FailingServicesJourney, TheRightToUseIsNotTakenForGranted) {
   failOnce(L"Security");
   pressTriggerActions();
-  const std::string report = host::answerBox().text;
+  const std::string report = driver::answerBox().text;
   EXPECT_THAT(report, AllOf(StartsWith("Module1.MyPermissionGranted: Line: "),
                             HasSubstr("The host is busy")));
-  EXPECT_EQ(host::answerBox().text, host::resourceText(3575));
-  EXPECT_EQ(host::findForm("frmTASummary"), nullptr);
+  EXPECT_EQ(driver::answerBox().text, host::resourceText(3575));
+  EXPECT_EQ(driver::findForm("frmTASummary"), nullptr);
   EXPECT_THAT(statements(), IsEmpty());
   EXPECT_NE(openSummary(), nullptr);
 }
@@ -104,11 +104,11 @@ TEST_F(FailingServicesJourney, TheSummaryShowsEveryTriggerWithoutOneDescription)
   failOnce(L"EnableCustomize");
   pressTriggerActions();
   const HWND summary = expectReport("Module1.GetEventDescription", "frmTASummary");
-  const int rows = host::rowCount(grid());
+  const int rows = driver::rowCount(grid());
   clickButton(control(summary, "cmdClose"));
-  host::waitUntilClosed(summary);
+  driver::waitUntilClosed(summary);
   openSummary();
-  EXPECT_EQ(host::rowCount(grid()), rows);
+  EXPECT_EQ(driver::rowCount(grid()), rows);
   EXPECT_GE(summaryRow("00001 - Door broken open!", "001.01.001.D01"), 0);
 }
 
@@ -116,18 +116,18 @@ TEST_F(FailingServicesJourney, TheSummaryShowsEveryTriggerWithoutOneActionName) 
   failOnce(L"GetResourceString");
   pressTriggerActions();
   expectReport("MPublic: GRS", "frmTASummary");
-  EXPECT_EQ(host::cell(grid(), 0, 0), "00001 - Door broken open!");
-  EXPECT_EQ(host::cell(grid(), 0, 2), "");
+  EXPECT_EQ(driver::cell(grid(), 0, 0), "00001 - Door broken open!");
+  EXPECT_EQ(driver::cell(grid(), 0, 2), "");
 }
 
 TEST_F(FailingServicesJourney, ADeletedTriggerThatCannotBeLoggedIsGoneAndReported) {
   const HWND summary = openSummary();
-  const int before = host::rowCount(grid());
-  host::selectRow(grid(), summaryRow("00001 - Door broken open!", "001.01.007.D01"));
+  const int before = driver::rowCount(grid());
+  driver::selectRow(grid(), summaryRow("00001 - Door broken open!", "001.01.007.D01"));
   failOnce(L"LogEvent");
   clickButton(control(summary, "cmdDelete"));
   expectReport("frmTASummary.cmdDelete_Click", "frmTASummary");
-  EXPECT_EQ(host::rowCount(grid()), before - 1);
+  EXPECT_EQ(driver::rowCount(grid()), before - 1);
   EXPECT_EQ(cctv(3, "TA_ID"), "");
   EXPECT_EQ(cctv(2, "TA_ID"), "2");
   EXPECT_THAT(audit(), IsEmpty());
@@ -157,8 +157,8 @@ TEST_F(FailingServicesJourney, TheSecondTriggerThatCannotBeLoggedLeavesTheRecord
 
 TEST_F(FailingServicesJourney, AChangedTriggerThatCannotBeLoggedIsStoredAndTheEditorStays) {
   const HWND editor = openEditorOn("00002 - Door open too long", "001.01.001.D01");
-  host::chooseTab(control(editor, "SSTab1"), 1);
-  host::chooseText(control(editor, "cmbCCTVMonitors"), "5");
+  driver::chooseTab(control(editor, "SSTab1"), 1);
+  driver::chooseText(control(editor, "cmbCCTVMonitors"), "5");
   failOnce(L"LogEvent");
   clickButton(control(editor, "cmdOK"));
   expectReport("frmTriggerAction.SaveCCTVTriggerAction", "frmTriggerAction");
@@ -166,7 +166,7 @@ TEST_F(FailingServicesJourney, AChangedTriggerThatCannotBeLoggedIsStoredAndTheEd
   EXPECT_EQ(cctv(2, "T_EventID"), "2");
   EXPECT_THAT(audit(), IsEmpty());
   clickButton(control(editor, "cmdOK"));
-  host::waitUntilClosed(editor);
+  driver::waitUntilClosed(editor);
   EXPECT_THAT(audit(), testing::ElementsAre("Update TriggerAction 2 Trigger Event 2 1185"));
 }
 
@@ -177,8 +177,8 @@ TEST_F(FailingServicesJourney, WithoutTheOperatorARecordersTriggerIsNotOverwritt
   pressEditOn("00040 - Water leak detected", "001.01.007.I01");
   const HWND editor = expectReport("frmTriggerAction.LoadCommandSetCombo", "frmTriggerAction");
   clickButton(control(editor, "cmdOK"));
-  EXPECT_EQ(host::answerBox().text, "Cannot save trigger. It could not be read completely.");
-  EXPECT_TRUE(host::isShown(editor));
+  EXPECT_EQ(driver::answerBox().text, "Cannot save trigger. It could not be read completely.");
+  EXPECT_TRUE(driver::isShown(editor));
   EXPECT_EQ(stored(action2, "CommandSetID"), "3");
   EXPECT_THAT(audit(), IsEmpty());
 }
@@ -190,7 +190,7 @@ TEST_F(FailingServicesJourney, WithoutTheOperatorANewCctvTriggerIsSavedAllTheSam
   const HWND editor = expectReport("frmTriggerAction.LoadCommandSetCombo", "frmTriggerAction");
   prepareTrigger(editor);
   clickButton(control(editor, "cmdOK"));
-  host::waitUntilClosed(editor);
+  driver::waitUntilClosed(editor);
   EXPECT_EQ(cctv(firstAdded, "T_EventID"), "3");
   EXPECT_THAT(audit(), SizeIs(2));
 }
@@ -200,13 +200,13 @@ TEST_F(FailingServicesJourney, EventsThatCannotBeDescribedAreListedAtTheNextTick
   const HWND filters = control(editor, "lstEventFilters");
   const HWND events = control(editor, "lvwEvents");
   failOnce(L"EnableCustomize");
-  host::tickRow(filters, 0);
+  driver::tickRow(filters, 0);
   expectReport("Error: LoadEventsByFilterType(): ", "frmTriggerAction");
-  EXPECT_EQ(host::rowCount(events), 0);
-  host::tickRow(filters, 0);
-  host::tickRow(filters, 0);
-  waitFor("events", [&] { return host::rowCount(events) > 0; });
-  EXPECT_EQ(host::cell(events, 0, 2), "Door broken open!");
+  EXPECT_EQ(driver::rowCount(events), 0);
+  driver::tickRow(filters, 0);
+  driver::tickRow(filters, 0);
+  waitFor("events", [&] { return driver::rowCount(events) > 0; });
+  EXPECT_EQ(driver::cell(events, 0, 2), "Door broken open!");
 }
 
 TEST_F(FailingServicesJourney, ThePickerOpensWithItsDesignCaptions) {
@@ -214,9 +214,9 @@ TEST_F(FailingServicesJourney, ThePickerOpensWithItsDesignCaptions) {
   failOnce(L"EnableCustomize");
   clickButton(control(editor, "cmdAddLocation"));
   const HWND picker = expectReport("FLocation.LoadCustomResources", "FLocation");
-  host::doubleClickNode(control(picker, "tvTree"),
-                        lobbyDoor(control(picker, "tvTree"), "Post room"));
-  waitFor("location", [&] { return host::rowCount(control(editor, "lvwLocation")) == 1; });
+  driver::doubleClickNode(control(picker, "tvTree"),
+                          lobbyDoor(control(picker, "tvTree"), "Post room"));
+  waitFor("location", [&] { return driver::rowCount(control(editor, "lvwLocation")) == 1; });
 }
 
 }  // namespace

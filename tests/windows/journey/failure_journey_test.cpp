@@ -6,9 +6,9 @@
 namespace pelorin::test {
 namespace {
 
-using host::clickButton;
-using host::control;
-using host::waitFor;
+using driver::clickButton;
+using driver::control;
+using driver::waitFor;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::EndsWith;
@@ -26,10 +26,10 @@ class FailureJourney : public Journey {
   void pressOk() { clickButton(control(editor, "cmdOK")); }
   // One box with that text; then the editor is there as before and nothing was logged as done.
   void expectRefusal(const std::string& text) {
-    EXPECT_EQ(host::answerBox().text, text);
+    EXPECT_EQ(driver::answerBox().text, text);
     waitFor("editor to be operated again", [&] { return IsWindowEnabled(editor); });
-    EXPECT_FALSE(host::findBox());
-    EXPECT_TRUE(host::isShown(editor));
+    EXPECT_FALSE(driver::findBox());
+    EXPECT_TRUE(driver::isShown(editor));
     EXPECT_THAT(audit(), IsEmpty());
     EXPECT_THAT(log.newLines(), IsEmpty());
   }
@@ -49,7 +49,7 @@ TEST_F(FailureJourney, WithoutItsLocationAnEditedTriggerIsNotSaved) {
   editor = openEditorOn("00002 - Door open too long", "001.01.001.D01");
   const HWND picker = openPicker(editor, "cmdSingleLocation");
   clickButton(control(picker, "cmdMain(1)"));
-  host::waitUntilClosed(picker);
+  driver::waitUntilClosed(picker);
   pressOk();
   expectRefusal("Required field missing. Must specify trigger location.");
 }
@@ -63,9 +63,9 @@ TEST_F(FailureJourney, WithoutAnAlarmDurationADvrTriggerIsNotSaved) {
 
 TEST_F(FailureJourney, WithoutAnEventADvrTriggerIsNotSaved) {
   editor = openEditorOn("00036 - Panic button (reception desk)", "001.01.001.I01");
-  host::tickRow(control(editor, "lstEventFilters"), 0);
+  driver::tickRow(control(editor, "lstEventFilters"), 0);
   waitFor("no event offered",
-          [&] { return host::comboRows(control(editor, "cmbEvents")).empty(); });
+          [&] { return driver::comboRows(control(editor, "cmbEvents")).empty(); });
   pressOk();
   expectRefusal("Required field missing. Must specify event.");
 }
@@ -73,18 +73,18 @@ TEST_F(FailureJourney, WithoutAnEventADvrTriggerIsNotSaved) {
 TEST_F(FailureJourney, AFailingStatementOfTheSummaryIsReportedOnceAndTheRestWorks) {
   changeSite("drop table CCTV_TriggerAction");
   clickButton(GetDlgItem(host.window(), IDM_TRIGGER_ACTIONS));
-  const host::OpenBox box = host::answerBox();
+  const driver::OpenBox box = driver::answerBox();
   EXPECT_EQ(box.title, "Pelorin");
   EXPECT_THAT(box.text, AllOf(StartsWith("frmTASummary.LoadCCTVSummaryData: Line: "),
                               HasSubstr("CCTV_TriggerAction")));
-  host::waitForForm("frmTASummary");
-  EXPECT_FALSE(host::findBox());
+  driver::waitForForm("frmTASummary");
+  EXPECT_FALSE(driver::findBox());
   EXPECT_THAT(log.newLines(), ElementsAre(EndsWith(": " + box.text)));
 
-  const int before = host::rowCount(grid());
-  host::selectRow(grid(), summaryRow("00040 - Water leak detected", "001.01.007.I01"));
-  host::pressMnemonic(grid(), 'D');
-  waitFor("one row less", [&] { return host::rowCount(grid()) == before - 1; });
+  const int before = driver::rowCount(grid());
+  driver::selectRow(grid(), summaryRow("00040 - Water leak detected", "001.01.007.I01"));
+  driver::pressMnemonic(grid(), 'D');
+  waitFor("one row less", [&] { return driver::rowCount(grid()) == before - 1; });
   EXPECT_THAT(audit(), ElementsAre("Delete TriggerAction 2 Trigger Event 40 1186"));
   EXPECT_EQ(log.newLines().size(), 1U);
 }
@@ -93,19 +93,19 @@ TEST_F(FailureJourney, AFailingSaveIsReportedOnceAndTheEditorStays) {
   prepareNewTrigger();
   changeSite("drop table CCTV_TriggerAction");
   pressOk();
-  const host::OpenBox box = host::answerBox();
+  const driver::OpenBox box = driver::answerBox();
   EXPECT_THAT(box.text,
               AllOf(StartsWith("frmTriggerAction.InsertCCTVTriggerActionForThisLocation: Line: "),
                     HasSubstr("CCTV_TriggerAction")));
   waitFor("editor to be operated again", [&] { return IsWindowEnabled(editor); });
-  EXPECT_FALSE(host::findBox());
-  EXPECT_TRUE(host::isShown(editor));
+  EXPECT_FALSE(driver::findBox());
+  EXPECT_TRUE(driver::isShown(editor));
   EXPECT_THAT(log.newLines(), ElementsAre(EndsWith(": " + box.text)));
   EXPECT_THAT(audit(), IsEmpty());
 
   clickButton(control(editor, "cmdCancel"));
-  host::waitUntilClosed(editor);
-  EXPECT_TRUE(IsWindowEnabled(host::findForm("frmTASummary")));
+  driver::waitUntilClosed(editor);
+  EXPECT_TRUE(IsWindowEnabled(driver::findForm("frmTASummary")));
 }
 
 }  // namespace

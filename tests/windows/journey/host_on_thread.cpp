@@ -3,8 +3,8 @@
 #include <array>
 
 #include "host/window/message_loop.h"
-#include "host/windows_api.h"
 #include "win32/text/utf16.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::test {
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <thread>
 
+#include "driver/ui_calls.h"
 #include "host/core/options.h"
-#include "host/driver/ui_calls.h"
 #include "host/window/main_window.h"
 
 namespace pelorin::test {
@@ -21,7 +21,7 @@ class HostOnThread {
   HostOnThread& operator=(const HostOnThread&) = delete;
   ~HostOnThread();
 
-  const host::UiCalls& ui() const { return *ui_; }
+  const driver::UiCalls& ui() const { return *ui_; }
   host::HostSession& session() const { return window_->session(); }
   HWND window() const { return handle_; }
   const std::string& file() const { return file_; }
@@ -33,7 +33,7 @@ class HostOnThread {
 
   host::OpenConnection odbc_;
   std::string file_;
-  std::optional<host::UiCalls> ui_;
+  std::optional<driver::UiCalls> ui_;
   std::unique_ptr<host::MainWindow> window_;
   HWND handle_ = nullptr;
   std::thread thread_;

@@ -6,21 +6,21 @@
 
 namespace pelorin::test {
 
-using host::control;
-using host::waitFor;
+using driver::control;
+using driver::waitFor;
 
 HWND Journey::openSummary() {
-  host::clickButton(GetDlgItem(host.window(), IDM_TRIGGER_ACTIONS));
-  return host::waitForForm("frmTASummary");
+  driver::clickButton(GetDlgItem(host.window(), IDM_TRIGGER_ACTIONS));
+  return driver::waitForForm("frmTASummary");
 }
 
 HWND Journey::openEditor() {
-  host::clickButton(control(openSummary(), "cmdAddEdit(0)"));
-  return host::waitForForm("frmTriggerAction");
+  driver::clickButton(control(openSummary(), "cmdAddEdit(0)"));
+  return driver::waitForForm("frmTriggerAction");
 }
 
 int Journey::summaryRow(const std::string& triggerText, const std::string& location) const {
-  const std::vector<host::Row> rows = host::rowsOf(grid());
+  const std::vector<driver::Row> rows = driver::rowsOf(grid());
   for (std::size_t row = 0; row < rows.size(); ++row) {
     if (rows[row].at(0) == triggerText && rows[row].at(1) == location) return static_cast<int>(row);
   }
@@ -30,29 +30,30 @@ int Journey::summaryRow(const std::string& triggerText, const std::string& locat
 HWND Journey::openEditorOn(const std::string& triggerText, const std::string& location) {
   const HWND summary = openSummary();
   const int row = summaryRow(triggerText, location);
-  if (row < 0) throw host::DriverError("not in the summary: " + triggerText + " " + location);
-  host::selectRow(grid(), row);
-  host::clickButton(control(summary, "cmdAddEdit(1)"));
-  return host::waitForForm("frmTriggerAction");
+  if (row < 0) throw driver::DriverError("not in the summary: " + triggerText + " " + location);
+  driver::selectRow(grid(), row);
+  driver::clickButton(control(summary, "cmdAddEdit(1)"));
+  return driver::waitForForm("frmTriggerAction");
 }
 
 HWND Journey::openPicker(HWND editor, const std::string& button) {
-  host::clickButton(control(editor, button));
-  return host::waitForForm("FLocation");
+  driver::clickButton(control(editor, button));
+  return driver::waitForForm("FLocation");
 }
 
 void Journey::checkEvents(HWND editor, const std::vector<std::string>& numbers) {
   const HWND events = control(editor, "lvwEvents");
-  host::tickRow(control(editor, "lstEventFilters"), 0);
-  waitFor("events", [&] { return host::rowCount(events) > 0; });
+  driver::tickRow(control(editor, "lstEventFilters"), 0);
+  waitFor("events", [&] { return driver::rowCount(events) > 0; });
   for (const std::string& number : numbers) {
-    host::clickCheck(events, host::findRow(events, 1, number));
+    driver::clickCheck(events, driver::findRow(events, 1, number));
   }
 }
 
 HTREEITEM Journey::lobbyDoor(HWND tree, const std::string& caption) {
-  return host::openPath(tree, {" Hardware", " Lumet Configuration (HEADOFFICE)",
-                               "VOLLO (HEADOFFICE)", "Network port 1", "Lobby", "Doors", caption});
+  return driver::openPath(tree,
+                          {" Hardware", " Lumet Configuration (HEADOFFICE)", "VOLLO (HEADOFFICE)",
+                           "Network port 1", "Lobby", "Doors", caption});
 }
 
 void Journey::addDoors(HWND editor, const std::vector<std::string>& captions) {
@@ -60,12 +61,12 @@ void Journey::addDoors(HWND editor, const std::vector<std::string>& captions) {
   const HWND tree = control(picker, "tvTree");
   const HWND locations = control(editor, "lvwLocation");
   for (const std::string& caption : captions) {
-    const int before = host::rowCount(locations);
-    host::doubleClickNode(tree, lobbyDoor(tree, caption));
-    waitFor("location", [&] { return host::rowCount(locations) == before + 1; });
+    const int before = driver::rowCount(locations);
+    driver::doubleClickNode(tree, lobbyDoor(tree, caption));
+    waitFor("location", [&] { return driver::rowCount(locations) == before + 1; });
   }
-  host::clickButton(control(picker, "cmdMain(1)"));
-  host::waitUntilClosed(picker);
+  driver::clickButton(control(picker, "cmdMain(1)"));
+  driver::waitUntilClosed(picker);
 }
 
 std::vector<std::string> Journey::statements() {

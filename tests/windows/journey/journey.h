@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "host/driver/find_window.h"
-#include "host/driver/operate.h"
-#include "host/driver/report_list.h"
-#include "host/driver/tree.h"
-#include "host/driver/waiting.h"
+#include "driver/find_window.h"
+#include "driver/operate.h"
+#include "driver/report_list.h"
+#include "driver/tree.h"
+#include "driver/waiting.h"
 #include "tests/windows/journey/host_on_thread.h"
 
 namespace pelorin::test {
@@ -24,7 +24,7 @@ class Journey : public testing::Test {
                     const std::string& location);
   HWND openPicker(HWND editor, const std::string& button);
 
-  HWND grid() const { return host::control(host::findForm("frmTASummary"), "MSFlexGrid1"); }
+  HWND grid() const { return driver::control(driver::findForm("frmTASummary"), "MSFlexGrid1"); }
   // The row of the summary with these first two cells; -1 when there is none.
   int summaryRow(const std::string& triggerText, const std::string& location) const;
 

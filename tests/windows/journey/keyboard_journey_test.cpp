@@ -6,8 +6,8 @@
 namespace pelorin::test {
 namespace {
 
-using host::control;
-using host::waitFor;
+using driver::control;
+using driver::waitFor;
 
 class KeyboardJourney : public Journey {
  protected:
@@ -17,40 +17,41 @@ class KeyboardJourney : public Journey {
     GetGUIThreadInfo(GetWindowThreadProcessId(host.window(), nullptr), &info);
     return info.hwndFocus;
   }
-  void press(WORD key) { host::pressKey(focus(), key); }
+  void press(WORD key) { driver::pressKey(focus(), key); }
   void tabTo(HWND form, const std::string& name) {
     const HWND wanted = control(form, name);
-    waitFor("focus in " + host::designName(form), [&] { return IsChild(form, focus()) != FALSE; });
+    waitFor("focus in " + driver::designName(form),
+            [&] { return IsChild(form, focus()) != FALSE; });
     constexpr int mostControls = 60;
     for (int step = 0; step < mostControls && focus() != wanted; ++step) {
       const HWND before = focus();
       press(VK_TAB);
-      waitFor("focus to leave " + host::designName(before), [&] { return focus() != before; });
+      waitFor("focus to leave " + driver::designName(before), [&] { return focus() != before; });
     }
-    ASSERT_EQ(host::designName(focus()), name);
+    ASSERT_EQ(driver::designName(focus()), name);
   }
   HWND openAddingEditor() {
     const HWND summary = openSummary();
     tabTo(summary, "cmdAddEdit(0)");
     press(VK_SPACE);
-    return host::waitForForm("frmTriggerAction");
+    return driver::waitForForm("frmTriggerAction");
   }
   void tickFirstEvents(HWND editor) {
     const HWND events = control(editor, "lvwEvents");
     tabTo(editor, "lstEventFilters");
     press(VK_SPACE);
-    waitFor("events", [&] { return host::rowCount(events) > 0; });
+    waitFor("events", [&] { return driver::rowCount(events) > 0; });
     tabTo(editor, "lvwEvents");
     press(VK_HOME);
     press(VK_SPACE);
     press(VK_DOWN);
     press(VK_SPACE);
     waitFor("two ticks",
-            [&] { return host::isRowChecked(events, 0) && host::isRowChecked(events, 1); });
+            [&] { return driver::isRowChecked(events, 0) && driver::isRowChecked(events, 1); });
   }
   static std::string caretText(HWND tree) {
     const LRESULT node = SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0);
-    return node == 0 ? "" : host::nodeText(tree, reinterpret_cast<HTREEITEM>(node));
+    return node == 0 ? "" : driver::nodeText(tree, reinterpret_cast<HTREEITEM>(node));
   }
   void walkTo(HWND tree, const std::string& caption) {
     constexpr int mostNodes = 40;
@@ -65,7 +66,7 @@ class KeyboardJourney : public Journey {
     const HWND locations = control(editor, "lvwLocation");
     tabTo(editor, "cmdAddLocation");
     press(VK_SPACE);
-    const HWND picker = host::waitForForm("FLocation");
+    const HWND picker = driver::waitForForm("FLocation");
     const HWND tree = control(picker, "tvTree");
     tabTo(picker, "tvTree");
     for (const char* folder : {" Lumet Configuration (HEADOFFICE)", "VOLLO (HEADOFFICE)",
@@ -75,16 +76,16 @@ class KeyboardJourney : public Journey {
     }
     walkTo(tree, "Revolving door");
     press(VK_RETURN);
-    waitFor("first door", [&] { return host::rowCount(locations) == 1; });
+    waitFor("first door", [&] { return driver::rowCount(locations) == 1; });
     walkTo(tree, "Visitor gate");
     press(VK_SPACE);
-    waitFor("second door", [&] { return host::rowCount(locations) == 2; });
+    waitFor("second door", [&] { return driver::rowCount(locations) == 2; });
     press(VK_ESCAPE);
-    host::waitUntilClosed(picker);
+    driver::waitUntilClosed(picker);
   }
   void chooseByKeys(HWND editor, const std::string& combo, const std::string& text) {
     tabTo(editor, combo);
-    host::chooseText(control(editor, combo), text);
+    driver::chooseText(control(editor, combo), text);
   }
 };
 
@@ -93,7 +94,7 @@ TEST_F(KeyboardJourney, TheTypicalRequestNeedsNoMouse) {
                     [](const std::string&) {});
   const host::Standing before = host::standing(stage);
   const HWND editor = openAddingEditor();
-  host::SummaryRows rows{.before = host::rowsOf(grid()), .after = {}};
+  host::SummaryRows rows{.before = driver::rowsOf(grid()), .after = {}};
   tickFirstEvents(editor);
   addTwoDoors(editor);
   tabTo(editor, "SSTab1");
@@ -101,8 +102,8 @@ TEST_F(KeyboardJourney, TheTypicalRequestNeedsNoMouse) {
   chooseByKeys(editor, "cmbCCTVCameras", "Revolving door");
   chooseByKeys(editor, "cmbCCTVMonitors", "2");
   press(VK_RETURN);
-  host::waitUntilClosed(editor);
-  rows.after = host::rowsOf(grid());
+  driver::waitUntilClosed(editor);
+  rows.after = driver::rowsOf(grid());
   EXPECT_THAT(host::tellOutcome(stage, before, rows), testing::IsEmpty());
 }
 

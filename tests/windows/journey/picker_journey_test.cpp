@@ -3,10 +3,10 @@
 namespace pelorin::test {
 namespace {
 
-using host::clickButton;
-using host::control;
-using host::textOf;
-using host::waitFor;
+using driver::clickButton;
+using driver::control;
+using driver::textOf;
+using driver::waitFor;
 
 class PickerJourney : public Journey {
  protected:
@@ -30,10 +30,10 @@ TEST_F(PickerJourney, OneLocationIsTakenOverByOk) {
   const HWND picker = openOnOneLocation();
   EXPECT_EQ(textOf(control(picker, "Label1")), "Single-click to select location");
   const HWND tree = control(picker, "tvTree");
-  host::clickNode(tree, lobbyDoor(tree, "Post room"));
+  driver::clickNode(tree, lobbyDoor(tree, "Post room"));
   waitForStatus(picker, "001.01.001.D04 - Post room");
   clickButton(control(picker, "cmdMain(0)"));
-  host::waitUntilClosed(picker);
+  driver::waitUntilClosed(picker);
   EXPECT_EQ(textOf(control(editor, "txtLocation")), "001.01.001.D04 - Post room");
 }
 
@@ -41,7 +41,7 @@ TEST_F(PickerJourney, CancelClearsTheLocation) {
   const HWND picker = openOnOneLocation();
   EXPECT_EQ(textOf(control(picker, "cmdMain(1)")), "Cancel");
   clickButton(control(picker, "cmdMain(1)"));
-  host::waitUntilClosed(picker);
+  driver::waitUntilClosed(picker);
   EXPECT_EQ(textOf(control(editor, "txtLocation")), "");
 }
 
@@ -49,50 +49,50 @@ TEST_F(PickerJourney, AFolderCannotBeChosen) {
   const HWND picker = openOnOneLocation();
   const HWND tree = control(picker, "tvTree");
   const HTREEITEM door = lobbyDoor(tree, "Post room");
-  host::clickNode(tree, door);
+  driver::clickNode(tree, door);
   waitForStatus(picker, "001.01.001.D04 - Post room");
-  host::clickNode(tree, host::childrenOf(tree, nullptr).at(0));
+  driver::clickNode(tree, driver::childrenOf(tree, nullptr).at(0));
   waitForStatus(picker, "<None>");
   EXPECT_FALSE(IsWindowEnabled(control(picker, "cmdMain(0)")));
 }
 
 TEST_F(PickerJourney, ADoubleClickAddsALocationOnce) {
   const HWND picker = openOnManyLocations();
-  EXPECT_FALSE(host::isShown(control(picker, "cmdMain(0)")));
+  EXPECT_FALSE(driver::isShown(control(picker, "cmdMain(0)")));
   const HWND tree = control(picker, "tvTree");
   const HWND locations = control(editor, "lvwLocation");
-  host::doubleClickNode(tree, lobbyDoor(tree, "Post room"));
+  driver::doubleClickNode(tree, lobbyDoor(tree, "Post room"));
   waitForStatus(picker, "001.01.001.D04 - Post room added");
-  host::doubleClickNode(tree, lobbyDoor(tree, "Post room"));
+  driver::doubleClickNode(tree, lobbyDoor(tree, "Post room"));
   waitForStatus(picker, "001.01.001.D04 - Post room");
-  EXPECT_EQ(host::rowCount(locations), 1);
+  EXPECT_EQ(driver::rowCount(locations), 1);
 }
 
 TEST_F(PickerJourney, EscapeClosesItAndKeepsTheList) {
   const HWND picker = openOnManyLocations();
   const HWND tree = control(picker, "tvTree");
-  host::doubleClickNode(tree, lobbyDoor(tree, "Post room"));
+  driver::doubleClickNode(tree, lobbyDoor(tree, "Post room"));
   waitForStatus(picker, "001.01.001.D04 - Post room added");
-  host::pressKey(tree, VK_ESCAPE);
-  host::waitUntilClosed(picker);
-  EXPECT_EQ(host::rowCount(control(editor, "lvwLocation")), 1);
+  driver::pressKey(tree, VK_ESCAPE);
+  driver::waitUntilClosed(picker);
+  EXPECT_EQ(driver::rowCount(control(editor, "lvwLocation")), 1);
 }
 
 TEST_F(PickerJourney, ALocationIsTakenOutOfTheListByDelete) {
   const HWND adding = openEditor();
   addDoors(adding, {"Post room", "Visitor gate"});
   const HWND locations = control(adding, "lvwLocation");
-  host::selectRow(locations, 0);
+  driver::selectRow(locations, 0);
   clickButton(control(adding, "cmdDeleteLocation"));
-  waitFor("one location", [&] { return host::rowCount(locations) == 1; });
-  EXPECT_EQ(host::cell(locations, 0, 0), "001.01.001.D03 - Visitor gate");
+  waitFor("one location", [&] { return driver::rowCount(locations) == 1; });
+  EXPECT_EQ(driver::cell(locations, 0, 0), "001.01.001.D03 - Visitor gate");
 }
 
 TEST_F(PickerJourney, WithoutNewerHardwareItsBranchIsAbsent) {
   host.ui().run([&] { host.session().settings().newerHardware = false; });
   const HWND tree = control(openOnManyLocations(), "tvTree");
-  for (const HTREEITEM node : host::childrenOf(tree, host::childrenOf(tree, nullptr).at(0))) {
-    EXPECT_EQ(host::nodeText(tree, node).find("Zorn"), std::string::npos);
+  for (const HTREEITEM node : driver::childrenOf(tree, driver::childrenOf(tree, nullptr).at(0))) {
+    EXPECT_EQ(driver::nodeText(tree, node).find("Zorn"), std::string::npos);
   }
 }
 

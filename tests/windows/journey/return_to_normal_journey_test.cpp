@@ -6,20 +6,20 @@
 namespace pelorin::test {
 namespace {
 
-using host::chooseText;
-using host::clickButton;
-using host::control;
-using host::waitFor;
+using driver::chooseText;
+using driver::clickButton;
+using driver::control;
+using driver::waitFor;
 
 class ReturnToNormalJourney : public Journey {
  protected:
   void checkExternalEvents(HWND editor, const std::vector<std::string>& numbers) {
     constexpr int externalEvents = 5;
-    host::tickRow(control(editor, "lstEventFilters"), externalEvents);
+    driver::tickRow(control(editor, "lstEventFilters"), externalEvents);
     const HWND events = control(editor, "lvwEvents");
-    waitFor("events", [&] { return host::rowCount(events) > 0; });
+    waitFor("events", [&] { return driver::rowCount(events) > 0; });
     for (const std::string& number : numbers) {
-      host::clickCheck(events, host::findRow(events, 1, number));
+      driver::clickCheck(events, driver::findRow(events, 1, number));
     }
   }
   // Address, event and kind of action of all CCTV triggers at those doors.
@@ -49,20 +49,20 @@ TEST_F(ReturnToNormalJourney, EachAlarmAtEachDoorGetsItsAcknowledgingTrigger) {
   const HWND editor = openEditor();
   checkExternalEvents(editor, {"05001", "05002"});
   addDoors(editor, {"Visitor gate", "Post room"});
-  host::chooseTab(control(editor, "SSTab1"), 1);
+  driver::chooseTab(control(editor, "SSTab1"), 1);
   chooseText(control(editor, "cmbCCTVActions"), "Raise switcher alarm");
-  host::typeText(control(editor, "txtCCTVAlarm"), "7");
+  driver::typeText(control(editor, "txtCCTVAlarm"), "7");
   clickButton(control(editor, "chkCCTVAutoRTNTriggers"));
-  waitFor("tick", [&] { return host::isChecked(control(editor, "chkCCTVAutoRTNTriggers")); });
-  const int before = host::rowCount(grid());
+  waitFor("tick", [&] { return driver::isChecked(control(editor, "chkCCTVAutoRTNTriggers")); });
+  const int before = driver::rowCount(grid());
   clickButton(control(editor, "cmdOK"));
-  host::waitUntilClosed(editor);
+  driver::waitUntilClosed(editor);
   EXPECT_THAT(storedAt(doors),
               testing::ElementsAre("001.01.001.D03 5001 2", "001.01.001.D03 5002 2",
                                    "001.01.001.D03 5101 3", "001.01.001.D03 5102 3",
                                    "001.01.001.D04 5001 2", "001.01.001.D04 5002 2",
                                    "001.01.001.D04 5101 3", "001.01.001.D04 5102 3"));
-  EXPECT_EQ(host::rowCount(grid()), before + 8);
+  EXPECT_EQ(driver::rowCount(grid()), before + 8);
   // The acknowledging ones are no operator's act of their own.
   EXPECT_EQ(audit().size(), 4U);
 }

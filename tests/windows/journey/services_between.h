@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "host/windows_api.h"
 #include "win32/com/com_ptr.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::test {
 

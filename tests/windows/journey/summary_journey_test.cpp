@@ -1,23 +1,23 @@
 #include "host/core/resource_texts.h"
 #include "host/window/resource.h"
-#include "host/windows_api.h"
 #include "tests/windows/journey/journey.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::test {
 namespace {
 
-using host::clickButton;
-using host::control;
-using host::waitFor;
+using driver::clickButton;
+using driver::control;
+using driver::waitFor;
 using testing::ElementsAre;
 
 using SummaryJourney = Journey;
 
 TEST_F(SummaryJourney, TheListShowsCctvTriggersFirstUnderItsSevenHeaders) {
   openSummary();
-  EXPECT_THAT(host::headersOf(grid()), ElementsAre("Trigger", "Location", "Action", "Type",
-                                                   "Device", "TriggerID", "TriggerEventID"));
-  EXPECT_THAT(host::rowsOf(grid()).at(0),
+  EXPECT_THAT(driver::headersOf(grid()), ElementsAre("Trigger", "Location", "Action", "Type",
+                                                     "Device", "TriggerID", "TriggerEventID"));
+  EXPECT_THAT(driver::rowsOf(grid()).at(0),
               ElementsAre("00001 - Door broken open!", "001.01.001.D01", "Call camera to monitor",
                           "CCTV", "Main building switcher", "1", "1"));
   for (const WPARAM column : {WPARAM{5}, WPARAM{6}}) {
@@ -27,10 +27,10 @@ TEST_F(SummaryJourney, TheListShowsCctvTriggersFirstUnderItsSevenHeaders) {
 
 TEST_F(SummaryJourney, DeleteByMouseRemovesTheRowTheTriggerAndIsLogged) {
   const HWND summary = openSummary();
-  const int before = host::rowCount(grid());
-  host::selectRow(grid(), summaryRow("00001 - Door broken open!", "001.01.007.D01"));
+  const int before = driver::rowCount(grid());
+  driver::selectRow(grid(), summaryRow("00001 - Door broken open!", "001.01.007.D01"));
   clickButton(control(summary, "cmdDelete"));
-  waitFor("one row less", [&] { return host::rowCount(grid()) == before - 1; });
+  waitFor("one row less", [&] { return driver::rowCount(grid()) == before - 1; });
   EXPECT_EQ(summaryRow("00001 - Door broken open!", "001.01.007.D01"), -1);
   EXPECT_EQ(stored("select * from CCTV_TriggerAction where TA_ID = 3", "TA_ID"), "");
   EXPECT_THAT(audit(), ElementsAre("Delete TriggerAction 3 Trigger Event 1 1186"));
@@ -38,10 +38,10 @@ TEST_F(SummaryJourney, DeleteByMouseRemovesTheRowTheTriggerAndIsLogged) {
 
 TEST_F(SummaryJourney, DeleteByKeyboardRemovesADvrTrigger) {
   openSummary();
-  const int before = host::rowCount(grid());
-  host::selectRow(grid(), summaryRow("00040 - Water leak detected", "001.01.007.I01"));
-  host::pressMnemonic(grid(), 'D');
-  waitFor("one row less", [&] { return host::rowCount(grid()) == before - 1; });
+  const int before = driver::rowCount(grid());
+  driver::selectRow(grid(), summaryRow("00040 - Water leak detected", "001.01.007.I01"));
+  driver::pressMnemonic(grid(), 'D');
+  waitFor("one row less", [&] { return driver::rowCount(grid()) == before - 1; });
   EXPECT_THAT(statements(), testing::Contains("exec TA_DeleteTrigger 2"));
   EXPECT_THAT(audit(), ElementsAre("Delete TriggerAction 2 Trigger Event 40 1186"));
 }
@@ -49,8 +49,8 @@ TEST_F(SummaryJourney, DeleteByKeyboardRemovesADvrTrigger) {
 TEST_F(SummaryJourney, WithoutPermissionATextIsShownAndNoWindow) {
   host.ui().run([&] { host.session().settings().permitted = false; });
   clickButton(GetDlgItem(host.window(), IDM_TRIGGER_ACTIONS));
-  EXPECT_EQ(host::answerBox().text, host::resourceText(3575));
-  EXPECT_EQ(host::findForm("frmTASummary"), nullptr);
+  EXPECT_EQ(driver::answerBox().text, host::resourceText(3575));
+  EXPECT_EQ(driver::findForm("frmTASummary"), nullptr);
 }
 
 TEST_F(SummaryJourney, RaisedTwiceItIsStillOneWindow) {
@@ -63,14 +63,15 @@ TEST_F(SummaryJourney, HelpShowsTheHostsPage) {
   waitFor("help page", [] {
     const HWND help = FindWindowW(L"PelorinHostHelp", nullptr);
     const HWND page = FindWindowExW(help, nullptr, L"EDIT", nullptr);
-    return help != nullptr && page != nullptr && host::textOf(page).starts_with("Trigger actions");
+    return help != nullptr && page != nullptr &&
+           driver::textOf(page).starts_with("Trigger actions");
   });
 }
 
 TEST_F(SummaryJourney, CloseClosesItAndItCanBeOpenedAgain) {
   const HWND summary = openSummary();
   clickButton(control(summary, "cmdClose"));
-  host::waitUntilClosed(summary);
+  driver::waitUntilClosed(summary);
   EXPECT_NE(openSummary(), nullptr);
 }
 

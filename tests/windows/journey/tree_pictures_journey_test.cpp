@@ -5,8 +5,8 @@
 #include <regex>
 
 #include "host/core/resource_texts.h"
-#include "host/windows_api.h"
 #include "tests/windows/journey/journey.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::test {
 namespace {
@@ -37,10 +37,10 @@ void appendShown(std::vector<std::string>& lines, HWND tree, HTREEITEM node, std
   item.mask = TVIF_HANDLE | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
   item.hItem = node;
   SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-  lines.push_back(std::string(2 * depth, ' ') + host::nodeText(tree, node) + "| " +
+  lines.push_back(std::string(2 * depth, ' ') + driver::nodeText(tree, node) + "| " +
                   std::to_string(item.iImage + 1) + "/" + std::to_string(item.iSelectedImage + 1));
   SendMessageW(tree, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(node));
-  for (const HTREEITEM child : host::childrenOf(tree, node)) {
+  for (const HTREEITEM child : driver::childrenOf(tree, node)) {
     appendShown(lines, tree, child, depth + 1);
   }
 }
@@ -58,13 +58,13 @@ int cellsOfTheFile() {
 using TreePicturesJourney = Journey;
 
 TEST_F(TreePicturesJourney, EveryNodeHasThePicturesOfItsKind) {
-  const HWND tree = host::control(openPicker(openEditor(), "cmdAddLocation"), "tvTree");
+  const HWND tree = driver::control(openPicker(openEditor(), "cmdAddLocation"), "tvTree");
   auto* const images = reinterpret_cast<HIMAGELIST>(SendMessageW(tree, TVM_GETIMAGELIST, 0, 0));
   EXPECT_EQ(ImageList_GetImageCount(images), cellsOfTheFile());
   std::vector<std::string> shown;
   host.ui().run([&] {
     SendMessageW(tree, WM_SETREDRAW, FALSE, 0);
-    appendShown(shown, tree, host::childrenOf(tree, nullptr).at(0), 0);
+    appendShown(shown, tree, driver::childrenOf(tree, nullptr).at(0), 0);
   });
   EXPECT_EQ(shown, expectedPictures());
 }

@@ -4,17 +4,17 @@
 
 #include "host/core/options.h"
 #include "host/session/host_session.h"
-#include "host/windows_api.h"
 #include "tests/windows/journey/component_log.h"
 #include "tests/windows/journey/journey.h"
+#include "win32/text/windows_api.h"
 
 namespace pelorin::test {
 namespace {
 
-using host::clickButton;
-using host::control;
-using host::textOf;
-using host::waitFor;
+using driver::clickButton;
+using driver::control;
+using driver::textOf;
+using driver::waitFor;
 
 LONG pixelsOf(HWND window, int twips) {
   const HDC canvas = GetDC(window);
@@ -39,7 +39,7 @@ class WindowsJourney : public Journey {
 
 TEST_F(WindowsJourney, ThePickerBelongsToTheEditorAndTheEditorToTheSummary) {
   const HWND picker = openPickerOnOneLocation();
-  const HWND summary = host::findForm("frmTASummary");
+  const HWND summary = driver::findForm("frmTASummary");
   EXPECT_EQ(GetWindow(picker, GW_OWNER), editor);
   EXPECT_EQ(GetWindow(editor, GW_OWNER), summary);
   EXPECT_EQ(GetWindow(summary, GW_OWNER), host.window());
@@ -53,9 +53,9 @@ TEST_F(WindowsJourney, TheTitleBarsCloseOfThePickerKeepsTheLocation) {
   constexpr LONG titleBar = WS_CAPTION | WS_SYSMENU;
   EXPECT_EQ(style(picker) & titleBar, titleBar);
   const HWND tree = control(picker, "tvTree");
-  host::clickNode(tree, lobbyDoor(tree, "Post room"));
+  driver::clickNode(tree, lobbyDoor(tree, "Post room"));
   PostMessageW(picker, WM_SYSCOMMAND, SC_CLOSE, 0);
-  host::waitUntilClosed(picker);
+  driver::waitUntilClosed(picker);
   EXPECT_EQ(textOf(control(editor, "txtLocation")), "001.01.001.D01");
 }
 
@@ -76,7 +76,7 @@ TEST_F(WindowsJourney, EveryComboOfTheEditorIsAListToChooseFrom) {
         "cmbCCTVPresets", "cmbCCTVMonitors", "cmbDVRUnit", "cmbDVRCamera", "cmbDVRRecordRate",
         "cmbRecordStandard", "cmbDVRCameraPresets", "cmbDVRViewGroups", "cmbCommandSet"}) {
     const HWND combo = control(adding, name);
-    EXPECT_EQ(host::classOf(combo), L"ComboBox") << name;
+    EXPECT_EQ(driver::classOf(combo), L"ComboBox") << name;
     constexpr LONG kind = CBS_SIMPLE | CBS_DROPDOWN | CBS_DROPDOWNLIST;
     EXPECT_EQ(style(combo) & kind, CBS_DROPDOWNLIST) << name;
     EXPECT_EQ(style(combo) & CBS_SORT, 0) << name;
@@ -94,28 +94,28 @@ TEST_F(WindowsJourney, TheColumnsOfTheSummaryHaveTheirWidths) {
 
 TEST_F(WindowsJourney, TheListOfTheSummaryCannotBeWrittenIn) {
   openSummary();
-  const auto before = host::rowsOf(grid());
-  host::selectRow(grid(), 0);
+  const auto before = driver::rowsOf(grid());
+  driver::selectRow(grid(), 0);
   EXPECT_EQ(ask(LVM_EDITLABELW, 0), 0);
-  host::pressKey(grid(), VK_F2);
-  host::typeText(grid(), "x");
+  driver::pressKey(grid(), VK_F2);
+  driver::typeText(grid(), "x");
   EXPECT_EQ(ask(LVM_GETEDITCONTROL), 0);
   EXPECT_EQ(style(grid()) & LVS_EDITLABELS, 0);
-  EXPECT_EQ(host::rowsOf(grid()), before);
+  EXPECT_EQ(driver::rowsOf(grid()), before);
 }
 
 TEST_F(WindowsJourney, TheSummaryStaysUsableWhileTheEditorIsOpen) {
   const HWND adding = openEditor();
   addDoors(adding, {"Post room"});
-  const HWND summary = host::findForm("frmTASummary");
+  const HWND summary = driver::findForm("frmTASummary");
   ASSERT_TRUE(IsWindowEnabled(summary));
-  const int before = host::rowCount(grid());
-  host::selectRow(grid(), summaryRow("00001 - Door broken open!", "001.01.007.D01"));
+  const int before = driver::rowCount(grid());
+  driver::selectRow(grid(), summaryRow("00001 - Door broken open!", "001.01.007.D01"));
   clickButton(control(summary, "cmdDelete"));
-  waitFor("one row less", [&] { return host::rowCount(grid()) == before - 1; });
-  EXPECT_TRUE(host::isShown(adding));
+  waitFor("one row less", [&] { return driver::rowCount(grid()) == before - 1; });
+  EXPECT_TRUE(driver::isShown(adding));
   EXPECT_TRUE(IsWindowEnabled(adding));
-  EXPECT_EQ(host::rowCount(control(adding, "lvwLocation")), 1);
+  EXPECT_EQ(driver::rowCount(control(adding, "lvwLocation")), 1);
 }
 
 // A second host in this process, with a window of its own; it ends in the order of any host.
@@ -149,7 +149,7 @@ class SecondHost {
   }
 
  private:
-  const host::UiCalls& ui_;
+  const driver::UiCalls& ui_;
   HWND window_ = nullptr;
   std::optional<host::HostSession> session_;
 };
@@ -158,16 +158,16 @@ TEST_F(WindowsJourney, AfterDestroyEveryOpenWindowGoesWithTheHostsWindow) {
   const ComponentLog log;
   SecondHost second(host);
   second.raiseForm();
-  const HWND summary = host::waitForForm("frmTASummary");
+  const HWND summary = driver::waitForForm("frmTASummary");
   clickButton(control(summary, "cmdAddEdit(0)"));
-  const HWND adding = host::waitForForm("frmTriggerAction");
+  const HWND adding = driver::waitForForm("frmTriggerAction");
   const HWND picker = openPicker(adding, "cmdAddLocation");
   second.letGo();
   second.closeWindow();
   for (const HWND window : {summary, adding, picker}) EXPECT_FALSE(IsWindow(window));
-  EXPECT_FALSE(host::findBox());
+  EXPECT_FALSE(driver::findBox());
   EXPECT_THAT(log.newLines(), testing::IsEmpty());
-  EXPECT_GT(host::rowCount(control(openSummary(), "MSFlexGrid1")), 0);
+  EXPECT_GT(driver::rowCount(control(openSummary(), "MSFlexGrid1")), 0);
 }
 
 }  // namespace

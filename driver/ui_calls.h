@@ -10,9 +10,9 @@
 #include <type_traits>
 #include <utility>
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 class UiCalls {
  public:
@@ -44,4 +44,4 @@ class UiCalls {
   HWND window_;
 };
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

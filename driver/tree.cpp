@@ -1,15 +1,15 @@
-#include "host/driver/tree.h"
+#include "driver/tree.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
 
-#include "host/driver/find_window.h"
-#include "host/driver/operate.h"
-#include "host/driver/waiting.h"
+#include "driver/find_window.h"
+#include "driver/operate.h"
+#include "driver/waiting.h"
 #include "win32/text/utf16.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 namespace {
 
@@ -119,4 +119,4 @@ HTREEITEM findNode(HWND tree, const std::function<bool(HTREEITEM)>& wanted) {
   return searchBelow(nullptr);
 }
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

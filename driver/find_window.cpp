@@ -1,12 +1,12 @@
-#include "host/driver/find_window.h"
+#include "driver/find_window.h"
 
 #include <array>
 #include <functional>
 
-#include "host/driver/waiting.h"
+#include "driver/waiting.h"
 #include "win32/text/utf16.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 namespace {
 
@@ -142,4 +142,4 @@ OpenBox answerBox(int button) {
   return box;
 }
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

@@ -1,13 +1,13 @@
-#include "host/driver/operate.h"
+#include "driver/operate.h"
 
 #include <algorithm>
 
-#include "host/driver/find_window.h"
-#include "host/driver/waiting.h"
-#include "host/windows_api.h"
+#include "driver/find_window.h"
+#include "driver/waiting.h"
 #include "win32/text/utf16.h"
+#include "win32/text/windows_api.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 namespace {
 
@@ -161,4 +161,4 @@ void chooseTab(HWND tabs, int page) {
           [&] { return SendMessageW(tabs, TCM_GETCURSEL, 0, 0) == page; });
 }
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

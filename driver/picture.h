@@ -3,12 +3,12 @@
 
 #include <string>
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 // Brings the window to the front and saves what it shows as a PNG file. DriverError when the file
 // cannot be written.
 void savePicture(HWND window, const std::wstring& file);
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

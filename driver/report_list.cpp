@@ -1,14 +1,14 @@
-#include "host/driver/report_list.h"
+#include "driver/report_list.h"
 
 #include <array>
 
-#include "host/driver/find_window.h"
-#include "host/driver/operate.h"
-#include "host/driver/waiting.h"
-#include "host/windows_api.h"
+#include "driver/find_window.h"
+#include "driver/operate.h"
+#include "driver/waiting.h"
 #include "win32/text/utf16.h"
+#include "win32/text/windows_api.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 namespace {
 
@@ -125,4 +125,4 @@ void clickCheck(HWND list, int row) {
   waitFor("tick in " + designName(list), [&] { return isRowChecked(list, row) != before; });
 }
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 POINT middleOf(const RECT& area);
 // A point in the window's client area, in pixels.
@@ -36,4 +36,4 @@ bool isTicked(HWND listBox, int row);
 // Tab controls.
 void chooseTab(HWND tabs, int page);
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

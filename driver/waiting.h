@@ -5,9 +5,9 @@
 #include <stdexcept>
 #include <string>
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 // What was waited for did not come.
 struct DriverError : std::runtime_error {
@@ -29,4 +29,4 @@ auto waitFor(const std::string& expected, Look&& look, std::chrono::seconds limi
   }
 }
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

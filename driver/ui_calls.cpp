@@ -1,10 +1,11 @@
-#include "host/driver/ui_calls.h"
+#include "driver/ui_calls.h"
 
 #include <memory>
 
-#include "win32/com/com_error.h"
+#include "driver/waiting.h"
+#include "win32/text/system_text.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 namespace {
 
@@ -49,7 +50,7 @@ HWND makeWindow() {
 }  // namespace
 
 UiCalls::UiCalls() : window_(makeWindow()) {
-  if (window_ == nullptr) throw errorOf(HRESULT_FROM_WIN32(GetLastError()));
+  if (window_ == nullptr) throw DriverError("no window for calls: " + systemText(GetLastError()));
 }
 
 UiCalls::~UiCalls() {
@@ -70,4 +71,4 @@ void UiCalls::post(std::function<void()> work) const {
   // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): it is in the message now.
 }
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

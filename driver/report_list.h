@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 using Row = std::vector<std::string>;
 
@@ -24,4 +24,4 @@ int selectedRow(HWND list);
 void clickCheck(HWND list, int row);
 bool isRowChecked(HWND list, int row);
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

@@ -1,4 +1,4 @@
-#include "host/driver/picture.h"
+#include "driver/picture.h"
 
 #include <gdiplus.h>
 
@@ -6,12 +6,12 @@
 #include <optional>
 #include <vector>
 
-#include "host/driver/find_window.h"
-#include "host/driver/waiting.h"
-#include "host/windows_api.h"
+#include "driver/find_window.h"
+#include "driver/waiting.h"
 #include "win32/text/utf16.h"
+#include "win32/text/windows_api.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 namespace {
 
@@ -127,4 +127,4 @@ void savePicture(HWND window, const std::wstring& file) {
   }
 }
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 // Empty for a window that has no design name.
 std::string designName(HWND window);
@@ -39,4 +39,4 @@ std::optional<OpenBox> findBox();
 OpenBox waitForBox();
 OpenBox answerBox(int button = IDOK);
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "host/windows_api.h"
+#include "win32/text/windows_api.h"
 
-namespace pelorin::host {
+namespace pelorin::driver {
 
 std::string nodeText(HWND tree, HTREEITEM node);
 std::vector<HTREEITEM> childrenOf(HWND tree, HTREEITEM parent);  // of the roots' parent when null
@@ -23,4 +23,4 @@ void doubleClickNode(HWND tree, HTREEITEM node);
 // Goes through the nodes from the top, opening them as needed; the first that is wanted, else null.
 HTREEITEM findNode(HWND tree, const std::function<bool(HTREEITEM)>& wanted);
 
-}  // namespace pelorin::host
+}  // namespace pelorin::driver
