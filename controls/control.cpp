@@ -2,12 +2,28 @@
 
 #include <utility>
 
+#include "controls/form.h"
 #include "controls/tab_control.h"
 
 namespace pelorin {
 
-Control::Control(ControlKind kind, std::string name, Place place, std::string text)
-    : kind_(kind), name_(std::move(name)), text_(std::move(text)), place_(place) {}
+Parent::Parent(Control& container, int page) noexcept
+    : form_(container.form()), container_(&container), page_(page) {}
+
+Control::Control(Parent parent, ControlKind kind, std::string name, const DesignPlace& design,
+                 std::string text)
+    : parent_(parent),
+      kind_(kind),
+      name_(std::move(name)),
+      text_(std::move(text)),
+      design_(design),
+      place_(design.place()) {
+  if (form() != nullptr) form()->registerControl(*this);
+}
+
+Control::~Control() {
+  if (form() != nullptr) form()->forgetControl(*this);
+}
 
 void Control::notify(Aspect aspect, int index) const {
   if (view_ != nullptr) view_->modelChanged(Change{aspect, index});
@@ -49,19 +65,14 @@ void Control::setBold(bool bold) {
   notify(Aspect::Bold);
 }
 
-void Control::setContainer(Control& container, int page) noexcept {
-  container_ = &container;
-  page_ = page;
-}
-
 bool Control::reachable() const noexcept {
   if (!visible_ || !enabled_ || covered_) return false;
-  if (container_ == nullptr) return true;
-  if (container_->kind() == ControlKind::TabControl &&
-      static_cast<const TabControl*>(container_)->tab() != page_) {
+  if (container() == nullptr) return true;
+  if (container()->kind() == ControlKind::TabControl &&
+      static_cast<const TabControl*>(container())->tab() != page()) {
     return false;
   }
-  return container_->reachable();
+  return container()->reachable();
 }
 
 }  // namespace pelorin

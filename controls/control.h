@@ -2,12 +2,12 @@
 // A native peer (or nothing, when running head-less) mirrors it.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
-namespace pelorin {
+#include "controls/parent.h"
+#include "controls/place.h"
 
-class Form;
+namespace pelorin {
 
 enum class ControlKind {
   Label,
@@ -22,21 +22,6 @@ enum class ControlKind {
   TabControl,
   Frame,
 };
-
-// In twips (1/1440 inch), relative to the container's client area.
-struct Place {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-  bool operator==(const Place&) const = default;
-};
-constexpr std::int64_t rightOf(const Place& place) noexcept {
-  return std::int64_t{place.left} + place.width;
-}
-constexpr std::int64_t bottomOf(const Place& place) noexcept {
-  return std::int64_t{place.top} + place.height;
-}
 
 // What a view has to look at again. `index` names the row or page where one is concerned, else -1.
 enum class Aspect {
@@ -70,10 +55,11 @@ class ControlView {
 
 class Control {
  public:
-  Control(ControlKind kind, std::string name, Place place, std::string text = {});
+  Control(Parent parent, ControlKind kind, std::string name, const DesignPlace& design,
+          std::string text = {});
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
-  virtual ~Control() = default;
+  virtual ~Control();
 
   ControlKind kind() const noexcept { return kind_; }
   // The design name, such as "cmbDVRUnit"; a member of a control array is "cmdAddEdit(1)".
@@ -91,6 +77,7 @@ class Control {
   // Something stands in front of the control: it stays where it is, out of the operator's reach.
   bool covered() const noexcept { return covered_; }
   void setCovered(bool covered);
+  const DesignPlace& design() const noexcept { return design_; }
   const Place& place() const noexcept { return place_; }
   void setPlace(const Place& place);
   bool bold() const noexcept { return bold_; }
@@ -98,10 +85,14 @@ class Control {
   const std::string& tag() const noexcept { return tag_; }
   void setTag(const std::string& tag) { tag_ = tag; }
 
+  // Null for a control that stands by itself.
+  Form* form() const noexcept { return parent_.form(); }
   // A frame, a tab control (then `page` says on which page), or null for the form itself.
-  Control* container() const noexcept { return container_; }
-  int page() const noexcept { return page_; }
-  void setContainer(Control& container, int page = 0) noexcept;
+  Control* container() const noexcept { return parent_.container(); }
+  int page() const noexcept { return parent_.page(); }
+  void setContainer(Control& container, int page = 0) noexcept {
+    parent_ = Parent(container, page);
+  }
 
   // Whether an operator could reach it now: visible, enabled and not covered, and so are its
   // containers, and its page is in front.
@@ -115,17 +106,17 @@ class Control {
   void storeText(const std::string& text) { text_ = text; }
 
  private:
+  Parent parent_;
   ControlKind kind_;
   std::string name_;
   std::string text_;
   std::string tag_;
+  DesignPlace design_;
   Place place_;
   bool visible_ = true;
   bool enabled_ = true;
   bool covered_ = false;
   bool bold_ = false;
-  Control* container_ = nullptr;
-  int page_ = 0;
   ControlView* view_ = nullptr;
 };
 

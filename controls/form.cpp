@@ -15,7 +15,7 @@ constexpr int largestClient = 1000000;
 }  // namespace
 
 Form::Form(std::string name, std::string caption, Size client)
-    : name_(std::move(name)), caption_(std::move(caption)), client_(client) {}
+    : name_(std::move(name)), caption_(std::move(caption)), designed_(client), client_(client) {}
 
 void Form::setCaption(const std::string& caption) {
   if (caption == caption_) return;
@@ -27,9 +27,36 @@ void Form::addControls(std::initializer_list<Control*> inTabOrder) {
   controls_.insert(controls_.end(), inTabOrder);
 }
 
-void Form::setResizable(Size smallest) {
+void Form::registerControl(Control& control) {
+  controls_.push_back(&control);
+}
+
+void Form::forgetControl(const Control& control) noexcept {
+  std::erase(controls_, &control);
+  if (focused_ == &control) focused_ = nullptr;
+  if (defaultButton_ == &control) defaultButton_ = nullptr;
+  if (cancelButton_ == &control) cancelButton_ = nullptr;
+}
+
+void Form::setResizable(Size smallest, Size followed) {
   resizable_ = true;
   smallest_ = smallest;
+  followed_ = followed;
+}
+
+// A container stands before what it contains, so that its new size is known by then.
+void Form::placeAnchored() {
+  const Size now{std::max(client_.width, followed_.width),
+                 std::max(client_.height, followed_.height)};
+  for (Control* control : controls_) {
+    const DesignPlace& design = control->design();
+    if (!design.follows()) continue;
+    const Control* container = control->container();
+    control->setPlace(container == nullptr
+                          ? anchoredPlace(design, designed_, now)
+                          : anchoredPlace(design, sizeOf(container->design().place()),
+                                          sizeOf(container->place())));
+  }
 }
 
 Control* Form::find(std::string_view controlName) const {
@@ -95,6 +122,7 @@ void Form::userResize(Size client) {
                       std::clamp(client.height, 0, largestClient)};
   if (possible == client_) return;
   client_ = possible;
+  placeAnchored();
   Form_Resize();
 }
 

@@ -18,12 +18,6 @@ class Screen;
 // A native window, opaque to portable code; 0 is none.
 using WindowHandle = std::uintptr_t;
 
-struct Size {
-  int width = 0;
-  int height = 0;
-  bool operator==(const Size&) const = default;
-};
-
 // Virtual-key codes that forms answer.
 namespace key_code {
 inline constexpr int enter = 13;
@@ -57,7 +51,7 @@ class Form {
   const std::string& caption() const noexcept { return caption_; }
   void setCaption(const std::string& caption);
 
-  // Every control, in tab order.
+  // Every control that stands on the form, in tab order.
   const std::vector<Control*>& controls() const noexcept { return controls_; }
   Control* find(std::string_view controlName) const;
 
@@ -110,20 +104,28 @@ class Form {
 
  protected:
   void addControls(std::initializer_list<Control*> inTabOrder);
-  void setResizable(Size smallest);
+  // `smallest` is the outer size; anchored controls follow the client area down to the size
+  // `followed`, so that what stands apart there never meets.
+  void setResizable(Size smallest, Size followed = {});
   void setDefaultButton(Button* button) noexcept { defaultButton_ = button; }
   void setCancelButton(Button* button) noexcept { cancelButton_ = button; }
   // True: the title bar's close presses the cancel button; false: it is a plain unload.
   void setCloseIsCancel(bool closeIsCancel) noexcept { closeIsCancel_ = closeIsCancel; }
 
  private:
+  friend class Control;
   friend class Screen;
+  void registerControl(Control& control);
+  void forgetControl(const Control& control) noexcept;
+  void placeAnchored();
   void userEnter();
 
   std::string name_;
   std::string caption_;
+  Size designed_;
   Size client_;
   Size smallest_;
+  Size followed_;
   bool resizable_ = false;
   bool closeIsCancel_ = true;
   std::vector<Control*> controls_;

@@ -15,8 +15,8 @@ namespace {
 
 }  // namespace
 
-Grid::Grid(std::string name, Place place, int columns)
-    : Control(ControlKind::Grid, std::move(name), place),
+Grid::Grid(Parent parent, std::string name, const DesignPlace& design, int columns)
+    : Control(parent, ControlKind::Grid, std::move(name), design),
       widths_(static_cast<std::size_t>(columns), 960),
       cells_(2, std::vector<std::string>(static_cast<std::size_t>(columns))) {}
 

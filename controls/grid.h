@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "controls/control.h"
@@ -14,7 +15,10 @@ namespace pelorin {
 
 class Grid : public Control {
  public:
-  Grid(std::string name, Place place, int columns);
+  Grid(Parent parent, std::string name, const DesignPlace& design, int columns);
+  Grid(std::string name, Place place, int columns)
+      : Grid(noParent, std::move(name), {place.left, place.top, place.width, place.height},
+             columns) {}
 
   int columns() const noexcept { return static_cast<int>(widths_.size()); }
   int columnWidth(int column) const;

@@ -16,8 +16,8 @@ void requireRow(int index, std::size_t count) {
 
 }  // namespace
 
-ComboBox::ComboBox(std::string name, Place place)
-    : Control(ControlKind::ComboBox, std::move(name), place) {}
+ComboBox::ComboBox(Parent parent, std::string name, const DesignPlace& design)
+    : Control(parent, ControlKind::ComboBox, std::move(name), design) {}
 
 const ListRow& ComboBox::row(int index) const {
   requireRow(index, rows_.size());
@@ -54,8 +54,8 @@ void ComboBox::userSelect(int index) {
   if (again && onClick) onClick();
 }
 
-ListBox::ListBox(std::string name, Place place)
-    : Control(ControlKind::ListBox, std::move(name), place) {}
+ListBox::ListBox(Parent parent, std::string name, const DesignPlace& design)
+    : Control(parent, ControlKind::ListBox, std::move(name), design) {}
 
 const ListRow& ListBox::row(int index) const {
   requireRow(index, rows_.size());

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "controls/control.h"
@@ -19,7 +20,9 @@ struct ListRow {
 // A drop-down list: one row is current, or none (-1).
 class ComboBox : public Control {
  public:
-  ComboBox(std::string name, Place place);
+  ComboBox(Parent parent, std::string name, const DesignPlace& design);
+  ComboBox(std::string name, Place place)
+      : ComboBox(noParent, std::move(name), {place.left, place.top, place.width, place.height}) {}
 
   int listCount() const noexcept { return static_cast<int>(rows_.size()); }
   const ListRow& row(int index) const;
@@ -46,7 +49,9 @@ class ComboBox : public Control {
 // A multiple-selection list in which one click toggles one row; rows are drawn with check marks.
 class ListBox : public Control {
  public:
-  ListBox(std::string name, Place place);
+  ListBox(Parent parent, std::string name, const DesignPlace& design);
+  ListBox(std::string name, Place place)
+      : ListBox(noParent, std::move(name), {place.left, place.top, place.width, place.height}) {}
 
   int listCount() const noexcept { return static_cast<int>(rows_.size()); }
   const ListRow& row(int index) const;

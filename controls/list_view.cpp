@@ -14,8 +14,9 @@ constexpr std::int32_t indexOutOfBounds = 35600;
 
 }  // namespace
 
-ListView::ListView(std::string name, Place place, std::vector<ListColumn> columns, bool checkBoxes)
-    : Control(ControlKind::ListView, std::move(name), place),
+ListView::ListView(Parent parent, std::string name, const DesignPlace& design,
+                   std::vector<ListColumn> columns, bool checkBoxes)
+    : Control(parent, ControlKind::ListView, std::move(name), design),
       columns_(std::move(columns)),
       checkBoxes_(checkBoxes) {}
 

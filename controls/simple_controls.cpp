@@ -4,25 +4,27 @@
 
 namespace pelorin {
 
-Label::Label(std::string name, Place place, std::string caption)
-    : Control(ControlKind::Label, std::move(name), place, std::move(caption)) {}
+Label::Label(Parent parent, std::string name, const DesignPlace& design, std::string caption)
+    : Control(parent, ControlKind::Label, std::move(name), design, std::move(caption)) {}
 
 void Label::userClick() const {
   if (reachable() && onClick) onClick();
 }
 
-Frame::Frame(std::string name, Place place, std::string caption)
-    : Control(ControlKind::Frame, std::move(name), place, std::move(caption)) {}
+Frame::Frame(Parent parent, std::string name, const DesignPlace& design, std::string caption)
+    : Control(parent, ControlKind::Frame, std::move(name), design, std::move(caption)) {}
 
-Button::Button(std::string name, Place place, std::string caption)
-    : Control(ControlKind::Button, std::move(name), place, std::move(caption)) {}
+Parent::Parent(Frame& frame) noexcept : Parent(frame, 0) {}
+
+Button::Button(Parent parent, std::string name, const DesignPlace& design, std::string caption)
+    : Control(parent, ControlKind::Button, std::move(name), design, std::move(caption)) {}
 
 void Button::userClick() const {
   if (reachable() && onClick) onClick();
 }
 
-CheckBox::CheckBox(std::string name, Place place, std::string caption)
-    : Control(ControlKind::CheckBox, std::move(name), place, std::move(caption)) {}
+CheckBox::CheckBox(Parent parent, std::string name, const DesignPlace& design, std::string caption)
+    : Control(parent, ControlKind::CheckBox, std::move(name), design, std::move(caption)) {}
 
 void CheckBox::setChecked(bool checked) {
   if (checked == checked_) return;
@@ -35,8 +37,8 @@ void CheckBox::userToggle() {
   if (reachable()) setChecked(!checked_);
 }
 
-TextBox::TextBox(std::string name, Place place, std::string text)
-    : Control(ControlKind::TextBox, std::move(name), place, std::move(text)) {}
+TextBox::TextBox(Parent parent, std::string name, const DesignPlace& design, std::string text)
+    : Control(parent, ControlKind::TextBox, std::move(name), design, std::move(text)) {}
 
 bool TextBox::userKey(char32_t key) const {
   if (!reachable()) return false;

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "controls/control.h"
 
@@ -10,7 +11,10 @@ namespace pelorin {
 
 class Label : public Control {
  public:
-  Label(std::string name, Place place, std::string caption);
+  Label(Parent parent, std::string name, const DesignPlace& design, std::string caption);
+  Label(std::string name, Place place, std::string caption)
+      : Label(noParent, std::move(name), {place.left, place.top, place.width, place.height},
+              std::move(caption)) {}
 
   // False shows "&" as it stands (a label that carries data, not a caption).
   bool useMnemonic() const noexcept { return useMnemonic_; }
@@ -25,12 +29,18 @@ class Label : public Control {
 
 class Frame : public Control {
  public:
-  Frame(std::string name, Place place, std::string caption);
+  Frame(Parent parent, std::string name, const DesignPlace& design, std::string caption);
+  Frame(std::string name, Place place, std::string caption)
+      : Frame(noParent, std::move(name), {place.left, place.top, place.width, place.height},
+              std::move(caption)) {}
 };
 
 class Button : public Control {
  public:
-  Button(std::string name, Place place, std::string caption);
+  Button(Parent parent, std::string name, const DesignPlace& design, std::string caption);
+  Button(std::string name, Place place, std::string caption)
+      : Button(noParent, std::move(name), {place.left, place.top, place.width, place.height},
+               std::move(caption)) {}
 
   std::function<void()> onClick;
   // Does nothing on a button that cannot be reached.
@@ -39,7 +49,10 @@ class Button : public Control {
 
 class CheckBox : public Control {
  public:
-  CheckBox(std::string name, Place place, std::string caption);
+  CheckBox(Parent parent, std::string name, const DesignPlace& design, std::string caption);
+  CheckBox(std::string name, Place place, std::string caption)
+      : CheckBox(noParent, std::move(name), {place.left, place.top, place.width, place.height},
+                 std::move(caption)) {}
 
   bool checked() const noexcept { return checked_; }
   // Raises the click when the state really changes.
@@ -54,7 +67,10 @@ class CheckBox : public Control {
 
 class TextBox : public Control {
  public:
-  TextBox(std::string name, Place place, std::string text = {});
+  TextBox(Parent parent, std::string name, const DesignPlace& design, std::string text = {});
+  TextBox(std::string name, Place place, std::string text = {})
+      : TextBox(noParent, std::move(name), {place.left, place.top, place.width, place.height},
+                std::move(text)) {}
 
   // Key code of a typed character (Unicode); the handler sets it to 0 to discard the key.
   std::function<void(char32_t& key)> onKeyPress;

@@ -6,8 +6,10 @@
 
 namespace pelorin {
 
-TabControl::TabControl(std::string name, Place place, std::vector<std::string> captions)
-    : Control(ControlKind::TabControl, std::move(name), place), captions_(std::move(captions)) {}
+TabControl::TabControl(Parent parent, std::string name, const DesignPlace& design,
+                       std::vector<std::string> captions)
+    : Control(parent, ControlKind::TabControl, std::move(name), design),
+      captions_(std::move(captions)) {}
 
 void TabControl::setTab(int tab) {
   if (tab < 0 || tab >= static_cast<int>(captions_.size())) {

@@ -1,8 +1,9 @@
-// Pages in front of each other. A page's controls name the tab control as container and their page.
+// Pages in front of each other, each a parent for its controls.
 #pragma once
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "controls/control.h"
@@ -11,9 +12,16 @@ namespace pelorin {
 
 class TabControl : public Control {
  public:
-  TabControl(std::string name, Place place, std::vector<std::string> captions);
+  TabControl(Parent parent, std::string name, const DesignPlace& design,
+             std::vector<std::string> captions);
+  TabControl(std::string name, Place place, std::vector<std::string> captions)
+      : TabControl(noParent, std::move(name), {place.left, place.top, place.width, place.height},
+                   std::move(captions)) {}
 
   const std::vector<std::string>& captions() const noexcept { return captions_; }
+  // For controls on the page; pages are numbered from 0.
+  Parent page(int index) noexcept { return {*this, index}; }
+  using Control::page;
   int tab() const noexcept { return tab_; }
   void setTab(int tab);
   // The operator brings a page to the front.

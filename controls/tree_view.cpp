@@ -7,8 +7,8 @@
 
 namespace pelorin {
 
-TreeView::TreeView(std::string name, Place place)
-    : Control(ControlKind::TreeView, std::move(name), place) {}
+TreeView::TreeView(Parent parent, std::string name, const DesignPlace& design)
+    : Control(parent, ControlKind::TreeView, std::move(name), design) {}
 
 TreeNode* TreeView::find(std::string_view key) const {
   return keys_.find(key);

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "controls/control.h"
@@ -50,7 +51,9 @@ struct NodeTexts {
 
 class TreeView : public Control {
  public:
-  TreeView(std::string name, Place place);
+  TreeView(Parent parent, std::string name, const DesignPlace& design);
+  TreeView(std::string name, Place place)
+      : TreeView(noParent, std::move(name), {place.left, place.top, place.width, place.height}) {}
 
   const std::vector<std::unique_ptr<TreeNode>>& roots() const noexcept { return roots_; }
   int count() const noexcept { return static_cast<int>(keys_.size()); }

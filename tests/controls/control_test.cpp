@@ -56,10 +56,8 @@ TEST(Control, IsReachableOnlyWhenVisibleAndEnabled) {
 
 TEST(Control, IsReachableOnlyInsideAReachableContainerOnThePageInFront) {
   TabControl tabs("tabs", {}, {"One", "Two"});
-  Frame frame("fra", {}, "Frame");
-  Button button("cmd", {}, "Button");
-  frame.setContainer(tabs, 1);
-  button.setContainer(frame);
+  Frame frame(tabs.page(1), "fra", {}, "Frame");
+  const Button button(frame, "cmd", {}, "Button");
   EXPECT_FALSE(button.reachable());
   tabs.setTab(1);
   EXPECT_TRUE(button.reachable());

@@ -13,7 +13,6 @@ namespace {
 class TwoBoxForm : public Form {
  public:
   TwoBoxForm() : Form("frmTwo", "Two", {1000, 500}) {
-    addControls({&txtOne, &txtTwo, &cmdOther, &cmdOK, &cmdCancel});
     setDefaultButton(&cmdOK);
     setCancelButton(&cmdCancel);
     const auto note = [this](const char* event) { return [=, this] { events.push_back(event); }; };
@@ -28,11 +27,11 @@ class TwoBoxForm : public Form {
   void Form_Resize() override { events.push_back("resize"); }
   using Form::setCloseIsCancel;
 
-  TextBox txtOne{"txtOne", {}};
-  TextBox txtTwo{"txtTwo", {}};
-  Button cmdOther{"cmdOther", {}, "Other"};
-  Button cmdOK{"cmdOK", {}, "OK"};
-  Button cmdCancel{"cmdCancel", {}, "Cancel"};
+  TextBox txtOne{*this, "txtOne", {}};
+  TextBox txtTwo{*this, "txtTwo", {}};
+  Button cmdOther{*this, "cmdOther", {}, "Other"};
+  Button cmdOK{*this, "cmdOK", {}, "OK"};
+  Button cmdCancel{*this, "cmdCancel", {}, "Cancel"};
   int keyUsed = 0;
   std::vector<std::string> events;
 };

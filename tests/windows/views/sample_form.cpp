@@ -5,28 +5,7 @@
 namespace pelorin::test {
 
 SampleForm::SampleForm() : Form("frmSample", "Sample", {9240, 6150}) {
-  for (Control* control :
-       std::initializer_list<Control*>{&lblName, &txtName, &lblKind, &cmbKind, &chkActive,
-                                       &lstFilters, &lvwEvents, &fraGroup}) {
-    control->setContainer(tabs, 0);
-  }
-  for (Control* control : std::initializer_list<Control*>{&lblInside, &txtInside, &cmdInside}) {
-    control->setContainer(fraGroup);
-  }
-  tvTree.setContainer(tabs, 1);
-  grid.setContainer(tabs, 1);
-  // Places on a page are relative to the tab control, whose captions take the first row.
-  for (Control* control :
-       std::initializer_list<Control*>{&lblName, &txtName, &lblKind, &cmbKind, &chkActive,
-                                       &lstFilters, &lvwEvents, &fraGroup, &tvTree, &grid}) {
-    Place place = control->place();
-    place.top += 400;
-    control->setPlace(place);
-  }
   lblStatus.setUseMnemonic(false);
-  addControls({&tabs, &lblName, &txtName, &lblKind, &cmbKind, &chkActive, &lstFilters, &lvwEvents,
-               &fraGroup, &lblInside, &txtInside, &cmdInside, &tvTree, &grid, &lblStatus, &cmdOK,
-               &cmdCancel, &cmdHelp});
   setDefaultButton(&cmdOK);
   setCancelButton(&cmdCancel);
   fillLists();

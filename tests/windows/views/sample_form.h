@@ -21,27 +21,29 @@ class SampleForm : public Form {
   // What happened, in order, such as "click cmdOK".
   std::vector<std::string> events;
 
-  TabControl tabs{"tabs", {120, 120, 9000, 5400}, {"&First", "&Second"}};
-  Label lblName{"lblName", {150, 240, 900, 195}, "&Name:"};
-  TextBox txtName{"txtName", {1200, 200, 2400, 315}};
-  Label lblKind{"lblKind", {150, 700, 900, 195}, "&Kind:"};
-  ComboBox cmbKind{"cmbKind", {1200, 650, 2400, 315}};
-  CheckBox chkActive{"chkActive", {1200, 1100, 2400, 255}, "A&ctive"};
-  ListBox lstFilters{"lstFilters", {150, 1500, 3450, 1500}};
-  ListView lvwEvents{"lvwEvents",
-                     {3800, 200, 5000, 2800},
+  TabControl tabs{*this, "tabs", {120, 120, 9000, 5400}, {"&First", "&Second"}};
+  // Places on a page are relative to the tab control, whose captions take the first row.
+  Label lblName{tabs.page(0), "lblName", {150, 640, 900, 195}, "&Name:"};
+  TextBox txtName{tabs.page(0), "txtName", {1200, 600, 2400, 315}};
+  Label lblKind{tabs.page(0), "lblKind", {150, 1100, 900, 195}, "&Kind:"};
+  ComboBox cmbKind{tabs.page(0), "cmbKind", {1200, 1050, 2400, 315}};
+  CheckBox chkActive{tabs.page(0), "chkActive", {1200, 1500, 2400, 255}, "A&ctive"};
+  ListBox lstFilters{tabs.page(0), "lstFilters", {150, 1900, 3450, 1500}};
+  ListView lvwEvents{tabs.page(0),
+                     "lvwEvents",
+                     {3800, 600, 5000, 2800},
                      {{"Type", 1200}, {"Event No.", 1200}, {"Description", 2000}},
                      true};
-  Frame fraGroup{"fraGroup", {150, 3100, 4300, 1700}, "Group"};
-  Label lblInside{"lblInside", {150, 350, 1000, 195}, "Inside:"};
-  TextBox txtInside{"txtInside", {1200, 300, 1500, 315}};
-  Button cmdInside{"cmdInside", {2800, 280, 1300, 375}, "&Inside"};
-  TreeView tvTree{"tvTree", {150, 300, 4000, 4300}};
-  Grid grid{"grid", {4300, 300, 4500, 4300}, 4};
-  Label lblStatus{"lblStatus", {150, 5700, 3000, 195}, "Salt & pepper"};
-  Button cmdOK{"cmdOK", {5500, 5650, 1100, 375}, "OK"};
-  Button cmdCancel{"cmdCancel", {6700, 5650, 1100, 375}, "Cancel"};
-  Button cmdHelp{"cmdHelp", {7900, 5650, 1100, 375}, "&Help"};
+  Frame fraGroup{tabs.page(0), "fraGroup", {150, 3500, 4300, 1700}, "Group"};
+  Label lblInside{fraGroup, "lblInside", {150, 350, 1000, 195}, "Inside:"};
+  TextBox txtInside{fraGroup, "txtInside", {1200, 300, 1500, 315}};
+  Button cmdInside{fraGroup, "cmdInside", {2800, 280, 1300, 375}, "&Inside"};
+  TreeView tvTree{tabs.page(1), "tvTree", {150, 700, 4000, 4300}};
+  Grid grid{tabs.page(1), "grid", {4300, 700, 4500, 4300}, 4};
+  Label lblStatus{*this, "lblStatus", {150, 5700, 3000, 195}, "Salt & pepper"};
+  Button cmdOK{*this, "cmdOK", {5500, 5650, 1100, 375}, "OK"};
+  Button cmdCancel{*this, "cmdCancel", {6700, 5650, 1100, 375}, "Cancel"};
+  Button cmdHelp{*this, "cmdHelp", {7900, 5650, 1100, 375}, "&Help"};
 
   void Form_Load() override { events.push_back("load"); }
   void Form_Activate() override { events.push_back("activate"); }
