@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "catalog/event_text.h"
+#include "catalog/zorn_family.h"
 #include "common/guard.h"
 
 namespace pelorin {
@@ -10,7 +11,6 @@ namespace pelorin {
 namespace {
 
 constexpr std::size_t mostTypes = 51;
-constexpr std::int16_t lastOrdinaryFilter = 7;
 
 bool covers(const EventTypeInfo& type, std::int32_t eventId) noexcept {
   return type.MinEventID <= eventId && eventId <= type.MaxEventID;
@@ -81,7 +81,7 @@ bool EventCatalogue::LoadFilterList(ListBox& list) {
         module_.DBConnection()->open("select * from TA_EventFilters order by FilterIndex");
     while (rows.next()) {
       const std::int32_t filter = rows.int32("filterIndex");
-      if (filter <= lastOrdinaryFilter || newerHardware) {
+      if (filter <= lastOrdinaryCategory || newerHardware) {
         list.addItem(rows.text("FilterType") + " Events", filter);
       }
     }
@@ -95,11 +95,11 @@ std::string EventCatalogue::descriptionOf(const std::string& sql) {
   return eventText(rows, module_.NTConnection()->EnableCustomize());
 }
 
-// The lower bound differs from GetFilterIndexByEventID's by one: 80001 is looked up in the
-// catalogue here and asked of the Zorn definitions there.
+// The first number is looked up in the catalogue here; GetFilterIndexByEventID asks the Zorn
+// definitions for that one too.
 std::string EventCatalogue::GetEventDescription(std::int32_t eventId) {
   return guardedOr(module_, "Module1.GetEventDescription", std::string(), [&]() -> std::string {
-    if (eventId > 80001 && eventId < 90000) return ZornGetEventDescription(eventId);
+    if (eventId != firstZornEvent && isZornEvent(eventId)) return ZornGetEventDescription(eventId);
     for (const EventTypeInfo& type : types()) {
       if (type.TableName.empty() || !covers(type, eventId)) continue;
       return descriptionOf("select EventId, Description, DefaultDescription from " +
@@ -118,7 +118,7 @@ std::string EventCatalogue::ZornGetEventDescription(std::int32_t eventId) {
 }
 
 std::optional<std::int16_t> EventCatalogue::findFilter(std::int32_t eventId) {
-  if (eventId > 80000 && eventId < 90000) return findZornFilter(eventId);
+  if (isZornEvent(eventId)) return findZornFilter(eventId);
   const auto walked = types();
   const auto found = std::find_if(walked.begin(), walked.end(),
                                   [&](const EventTypeInfo& type) { return covers(type, eventId); });
@@ -145,20 +145,8 @@ std::int16_t EventCatalogue::ZornGetFilterIndexByEventID(std::int32_t eventId) {
 }
 
 std::int16_t EventCatalogue::ZornEventTypeToFilterIndex(std::int32_t zornEventType) noexcept {
-  switch (zornEventType) {
-    case 20:
-      return 8;
-    case 21:
-      return 9;
-    case 22:
-      return 10;
-    case 24:
-      return 11;
-    case 25:
-      return 12;
-    default:
-      return 0;
-  }
+  const ZornEventKind* kind = zornEventKind(zornEventType);
+  return kind ? kind->category : std::int16_t{0};
 }
 
 std::string EventCatalogue::GetFilterTypeByFilterIndex(std::int16_t filterIndex) const {

@@ -54,7 +54,7 @@ class EventCatalogue {
   // 0 in both cases.
   std::int16_t GetFilterIndexByEventID(std::int32_t eventId);
   std::int16_t ZornGetFilterIndexByEventID(std::int32_t eventId);
-  // 0 for every other type of event than 20, 21, 22, 24 and 25.
+  // 0 for a type of event that is none of the family's.
   static std::int16_t ZornEventTypeToFilterIndex(std::int32_t zornEventType) noexcept;
   // FilterType of the filter, empty when there is none.
   std::string GetFilterTypeByFilterIndex(std::int16_t filterIndex) const;

@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "catalog/zorn_family.h"
 #include "common/combo_helpers.h"
 #include "common/guard.h"
 #include "controls/flag_while.h"
@@ -12,7 +13,6 @@ namespace pelorin {
 
 namespace {
 
-constexpr std::int32_t lastOrdinaryCategory = 7;
 constexpr const char* loadName = "Error: LoadEventsByFilterType(): ";
 
 ListItem eventRow(const EventTypeInfo& type, const ListedEvent& event) {

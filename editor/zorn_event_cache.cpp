@@ -5,14 +5,15 @@
 
 #include "catalog/event_catalogue.h"
 #include "catalog/event_text.h"
+#include "catalog/zorn_family.h"
 #include "common/guard.h"
 
 namespace pelorin {
 
 namespace {
 
-// Their numbers are those between 80000 and 90000. A view in the table's place can count anything.
-constexpr std::int32_t mostZornEvents = 10000;
+// A view in the table's place can count anything.
+constexpr std::int32_t mostZornEvents = lastZornEvent - firstZornEvent + 1;
 
 }  // namespace
 
@@ -78,20 +79,8 @@ void ZornEventCache::ZornRemoveDisplayItem(ListView& events, const Tags& eventId
 }
 
 std::string ZornEventCache::ZornEventTypeText(std::int32_t zornEventType) {
-  switch (zornEventType) {
-    case 20:
-      return "ZornTransaction";
-    case 21:
-      return "ZornInternal";
-    case 22:
-      return "ZornExternal";
-    case 24:
-      return "ZornMiscellaneoud";
-    case 25:
-      return "ZornSoftware";
-    default:
-      return {};
-  }
+  const ZornEventKind* kind = zornEventKind(zornEventType);
+  return kind ? kind->text : "";
 }
 
 }  // namespace pelorin

@@ -14,11 +14,6 @@
 
 namespace pelorin {
 
-// The filter categories whose events come from the cache.
-constexpr bool isZornCategory(std::int32_t category) noexcept {
-  return category >= 8 && category <= 12;
-}
-
 class ZornEventCache {
  public:
   explicit ZornEventCache(Module1& module) noexcept : module_(module) {}
