@@ -2,16 +2,11 @@
 
 #include "site/script_session.h"
 #include "site/source_checks.h"
-#include "site/statement_table.h"
+#include "site/statement_call.h"
 
 namespace pelorin::site {
 
 namespace {
-
-constexpr const char* addRecorderAction =
-    "declare @id int "
-    "exec DVR_AddAction @id output, 1, 1, 0.8e0, 15, 1, 0, 0, 0 "
-    "select DVRActionID, RecordRate from DVR_TriggerActions where DVRActionID = @id";
 
 // Each step leaves a mark when it passed. What failed is what left none: so a step that the server
 // could not even read counts as well.
@@ -107,9 +102,8 @@ void writeCheck(const BatchSink& sink) {
   checkTables(writer);
   checkProcedures(writer);
   for (const SiteStatement& statement : siteStatements()) {
-    writer.statement(statement.name, statement.text, statement.writes);
+    writer.statement(statement.name, serverBatch(statement), statement.writes);
   }
-  writer.statement("AddDVRAction", addRecorderAction, true);
   writer.end();
 }
 

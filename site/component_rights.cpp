@@ -1,11 +1,11 @@
 #include "site/component_rights.h"
 
+#include <algorithm>
+
 #include "controls/text_key.h"
-#include "site/batch_reader.h"
-#include "site/procedure.h"
 #include "site/schema.h"
 #include "site/sql_tokens.h"
-#include "site/statement_table.h"
+#include "site/statement_call.h"
 
 namespace pelorin::site {
 
@@ -26,11 +26,18 @@ void addTables(const std::string& sql, ComponentRights& rights) {
   }
 }
 
-// The names of these tables come out of the event types at run time.
-void addEventTables(ComponentRights& rights) {
-  for (const Table& table : siteSchema().tables()) {
-    if (table.column("EventId") && table.column("DefaultDescription")) {
-      rights.read.insert(table.name);
+bool hasColumns(const Table& table, const std::vector<std::string>& names) {
+  return std::all_of(names.begin(), names.end(),
+                     [&](const std::string& name) { return table.column(name) != nullptr; });
+}
+
+// A table in a place of the statement comes out of the event types at run time: it can be each one
+// with the columns that are read.
+void addTablesInPlaces(const SiteStatement& statement, ComponentRights& rights) {
+  for (const StatementPlace& place : statement.places) {
+    if (!siteSchema().table(place.sample)) continue;
+    for (const Table& table : siteSchema().tables()) {
+      if (hasColumns(table, statement.columns)) rights.read.insert(table.name);
     }
   }
 }
@@ -40,16 +47,13 @@ void addEventTables(ComponentRights& rights) {
 ComponentRights componentRights() {
   ComponentRights rights;
   for (const SiteStatement& statement : siteStatements()) {
-    const Batch batch = readBatch(statement.text);
-    if (const auto* call = std::get_if<CallText>(&batch)) {
-      rights.execute.insert(findProcedure(call->procedure).name);
+    if (const Procedure* procedure = calledProcedure(statement)) {
+      rights.execute.insert(procedure->name);
     } else {
       addTables(statement.text, rights);
+      addTablesInPlaces(statement, rights);
     }
   }
-  // Called through a command, not by a statement.
-  rights.execute.insert("DVR_AddAction");
-  addEventTables(rights);
   return rights;
 }
 

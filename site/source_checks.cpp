@@ -2,9 +2,7 @@
 
 #include <algorithm>
 
-#include "controls/text_key.h"
-#include "site/batch_reader.h"
-#include "site/statement_table.h"
+#include "site/statement_call.h"
 #include "site/transact_sql.h"
 
 namespace pelorin::site {
@@ -27,9 +25,8 @@ bool readsPosition(const SiteStatement& statement, std::size_t at) {
 }
 
 bool calls(const SiteStatement& statement, const Procedure& procedure) {
-  const Batch batch = readBatch(statement.text);
-  const auto* call = std::get_if<CallText>(&batch);
-  return call && equalNoCase(call->procedure, procedure.name);
+  const Procedure* called = calledProcedure(statement);
+  return called && called->name == procedure.name;
 }
 
 bool isReadByPosition(const Procedure& procedure, std::size_t at) {

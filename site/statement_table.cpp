@@ -27,14 +27,25 @@ void readLine(SiteStatement& statement, std::string_view line) {
   std::string_view rest = line;
   const std::string_view word = takeWord(rest);
   if (word.starts_with('"') && line.ends_with('"')) {
-    statement.text = line.substr(1, line.size() - 2);
+    statement.pattern = line.substr(1, line.size() - 2);
+    statement.text = statement.pattern;
   } else if (word.starts_with('{') && rest.starts_with('=')) {
-    replaceAll(statement.text, word, trim(rest.substr(1)));
+    const std::string_view sample = trim(rest.substr(1));
+    statement.places.push_back({std::string(word), std::string(sample)});
+    replaceAll(statement.text, word, sample);
   } else if (word == "columns") {
     readColumns(statement, rest);
   } else {
     refuseStatementLine(line);
   }
+}
+
+SiteStatement startEntry(std::string_view kind, std::string_view rest) {
+  SiteStatement statement;
+  statement.name = takeWord(rest);
+  statement.writes = rest == "writes";
+  statement.command = kind == "command";
+  return statement;
 }
 
 }  // namespace
@@ -44,10 +55,8 @@ std::vector<SiteStatement> readStatements(std::string_view text) {
   for (const std::string_view line : lines(text)) {
     std::string_view rest = line;
     if (trim(line).empty() || line.starts_with('#')) continue;
-    if (line.starts_with("statement ")) {
-      takeWord(rest);
-      const std::string_view name = takeWord(rest);
-      statements.push_back({std::string(name), "", {}, rest == "writes"});
+    if (const auto kind = takeWord(rest); kind == "statement" || kind == "command") {
+      statements.push_back(startEntry(kind, rest));
     } else {
       if (statements.empty()) refuseStatementLine(line);
       readLine(statements.back(), trim(line));

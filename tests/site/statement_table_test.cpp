@@ -1,5 +1,4 @@
-#include "site/statement_table.h"
-
+#include "site/statement_call.h"
 #include "tests/site/site_fixture.h"
 
 namespace pelorin {
@@ -19,6 +18,11 @@ void expectColumn(const RecordSet& records, const std::string& column) {
 
 TEST_P(EveryStatement, RunsAndGivesItsColumns) {
   const SiteStatement& statement = GetParam();
+  if (statement.command) {
+    ProcedureCall call = site::commandCall(statement);
+    connection_->execute(call);
+    return;
+  }
   if (statement.writes) {
     connection_->execute(statement.text);
     return;

@@ -12,7 +12,7 @@ using testing::ElementsAreArray;
 
 using TextRows = std::vector<std::vector<std::string>>;
 
-TEST(ZornFamily, itsCategoriesFollowOneAnother) {
+TEST(ZornFamily, ItsCategoriesFollowOneAnother) {
   std::int32_t category = lastOrdinaryCategory;
   for (const ZornEventKind& kind : zornEventKinds) {
     EXPECT_EQ(kind.category, ++category);
@@ -21,7 +21,7 @@ TEST(ZornFamily, itsCategoriesFollowOneAnother) {
   EXPECT_FALSE(isZornCategory(category + 1));
 }
 
-TEST_F(SiteTest, theFamilysCategoriesAreTheLastOnes) {
+TEST_F(SiteTest, TheFamilysCategoriesAreTheLastOnes) {
   TextRows expected;
   for (const ZornEventKind& kind : zornEventKinds)
     expected.push_back({std::to_string(kind.category)});
@@ -32,7 +32,7 @@ TEST_F(SiteTest, theFamilysCategoriesAreTheLastOnes) {
               ElementsAreArray(expected));
 }
 
-TEST_F(SiteTest, theCatalogueNamesTheFamilysCategoriesAsItsRowsAreNamed) {
+TEST_F(SiteTest, TheCatalogueNamesTheFamilysCategoriesAsItsRowsAreNamed) {
   TextRows expected;
   for (const ZornEventKind& kind : zornEventKinds) {
     expected.push_back({kind.text, std::to_string(kind.category)});
@@ -44,7 +44,7 @@ TEST_F(SiteTest, theCatalogueNamesTheFamilysCategoriesAsItsRowsAreNamed) {
               ElementsAreArray(expected));
 }
 
-TEST_F(SiteTest, everyEventOfTheFamilyHasAKnownTypeAndANumberOfItsCategory) {
+TEST_F(SiteTest, EveryEventOfTheFamilyHasAKnownTypeAndANumberOfItsCategory) {
   RecordSet events = connection_->open("select EventId, ZornEventType from Zorn_EventDefinitions");
   while (events.next()) {
     const std::int32_t event = events.int32("EventId");
@@ -61,7 +61,7 @@ TEST_F(SiteTest, everyEventOfTheFamilyHasAKnownTypeAndANumberOfItsCategory) {
   }
 }
 
-TEST_F(SiteTest, theCataloguesRangesAreTheFamilysNumbers) {
+TEST_F(SiteTest, TheCataloguesRangesAreTheFamilysNumbers) {
   RecordSet ranges = connection_->open(
       "select min(MinEventID) as First, max(MaxEventID) as Last from TA_EventTypes where TableName "
       "= 'Zorn_EventDefinitions'");
