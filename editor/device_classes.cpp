@@ -6,13 +6,12 @@
 
 namespace pelorin {
 
-DeviceClasses::DeviceClasses(Module1& module, TabControl& tabs, int page, Frame& fraCCTVAction,
-                             Frame& fraDVRAction)
+DeviceClasses::DeviceClasses(Module1& module, TabControl& tabs, int page,
+                             const ActionPanels& panels)
     : lblActionDeviceClass("lblActionDeviceClass", {180, 585, 1380, 255}, "Device Type:"),
       cmbActionDeviceClass("cmbActionDeviceClass", {1620, 540, 4500, 330}),
       module_(module),
-      fraCCTVAction_(fraCCTVAction),
-      fraDVRAction_(fraDVRAction) {
+      panels_(panels) {
   for (Control* control : controls()) control->setContainer(tabs, page);
   cmbActionDeviceClass.onClick = [this] { cmbActionDeviceClass_Click(); };
 }
@@ -27,11 +26,17 @@ bool DeviceClasses::LoadDeviceClassCombo(ComboBox& combo) {
 }
 
 void DeviceClasses::addClasses(ComboBox& combo) {
-  combo.addItem("CCTV", device_class::cctv);
+  for (const auto& panel : panels_) {
+    if (panel->ownClassName() != nullptr) {
+      combo.addItem(panel->ownClassName(), panel->deviceClass());
+    }
+  }
   RecordSet rows = module_.DBConnection()->open("select * from IntegratedDeviceclasses");
   while (rows.next()) {
     const std::int32_t id = rows.int32("IntegratedDeviceClassId");
-    if (id == device_class::dvr) combo.addItem(rows.text("Classname"), id);
+    const ActionPanel* panel = panelOf(panels_, id);
+    if (panel == nullptr || panel->ownClassName() != nullptr) continue;
+    combo.addItem(rows.text("Classname"), id);
   }
 }
 
@@ -43,11 +48,10 @@ void DeviceClasses::cmbActionDeviceClass_Click() {
 
 void DeviceClasses::DisplayDeviceAction(std::int32_t deviceClass) {
   guarded(module_, "frmTriggerAction.DisplayDeviceAction", [&] {
-    fraDVRAction_.setVisible(false);
-    fraCCTVAction_.setVisible(false);
+    for (const auto& panel : panels_) panel->frame().setVisible(false);
     SelectComboItemByData(cmbActionDeviceClass, deviceClass);
-    if (deviceClass == device_class::dvr) fraDVRAction_.setVisible(true);
-    if (deviceClass == device_class::cctv) fraCCTVAction_.setVisible(true);
+    ActionPanel* panel = panelOf(panels_, deviceClass);
+    if (panel != nullptr) panel->frame().setVisible(true);
   });
 }
 

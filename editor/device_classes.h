@@ -8,21 +8,21 @@
 #include "controls/item_lists.h"
 #include "controls/simple_controls.h"
 #include "controls/tab_control.h"
+#include "editor/panel/action_panel.h"
 
 namespace pelorin {
 
 class DeviceClasses {
  public:
-  DeviceClasses(Module1& module, TabControl& tabs, int page, Frame& fraCCTVAction,
-                Frame& fraDVRAction);
+  DeviceClasses(Module1& module, TabControl& tabs, int page, const ActionPanels& panels);
 
   Label lblActionDeviceClass;
   ComboBox cmbActionDeviceClass;
 
   std::vector<Control*> controls() { return {&lblActionDeviceClass, &cmbActionDeviceClass}; }
 
-  // "CCTV" and the classes of the database that the editor can save; selects the first one without
-  // showing its panel. False when an error ended it.
+  // The classes with a panel that are always there, then those that the database lists; selects the
+  // first one without showing its panel. False when an error ended it.
   bool LoadDeviceClassCombo(ComboBox& combo);
   void cmbActionDeviceClass_Click();
   // Selects the class, when the combo has it, and shows its panel alone; none for another class.
@@ -35,8 +35,7 @@ class DeviceClasses {
   void addClasses(ComboBox& combo);
 
   Module1& module_;
-  Frame& fraCCTVAction_;
-  Frame& fraDVRAction_;
+  const ActionPanels& panels_;
   bool m_bLoadingDeviceClasses = false;
 };
 

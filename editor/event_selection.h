@@ -12,17 +12,13 @@
 #include "controls/list_view.h"
 #include "controls/simple_controls.h"
 #include "controls/tab_control.h"
-#include "editor/editor_state.h"
 #include "editor/event_rows.h"
+#include "editor/panel/editor_state.h"
+#include "editor/panel/save_steps.h"
 #include "editor/trigger_locations.h"
 #include "editor/zorn_event_cache.h"
 
 namespace pelorin {
-
-struct CheckedEvent {
-  std::string text;  // as listed, five digits
-  std::int32_t id;
-};
 
 class EventSelection {
  public:

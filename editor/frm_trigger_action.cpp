@@ -1,10 +1,13 @@
 #include "editor/frm_trigger_action.h"
 
+#include <ranges>
 #include <utility>
 
 #include "catalog/trigger_store.h"
 #include "common/guard.h"
 #include "controls/flag_while.h"
+#include "editor/cctv/cctv_panel.h"
+#include "editor/dvr/dvr_panel.h"
 
 namespace pelorin {
 
@@ -21,6 +24,14 @@ EditorState stateOf(const EditorRequest& request) {
   return state;
 }
 
+// Every action panel, in tab order.
+ActionPanels actionPanels(Module1& module, EventCatalogue& catalogue, TabControl& tabs) {
+  ActionPanels panels;
+  panels.push_back(std::make_unique<CctvPanel>(module, catalogue, tabs, ActionPage));
+  panels.push_back(std::make_unique<DvrPanel>(module, tabs, ActionPage));
+  return panels;
+}
+
 }  // namespace
 
 frmTriggerAction::frmTriggerAction(Module1& module, EventCatalogue& catalogue,
@@ -33,20 +44,20 @@ frmTriggerAction::frmTriggerAction(Module1& module, EventCatalogue& catalogue,
       SSTab1("SSTab1", {120, 120, 9960, 6840}, {"&Trigger", "&Action"}),
       locations_(module, SSTab1, TriggerPage, *this, std::move(showPicker)),
       events_(module, catalogue, state_, locations_, SSTab1, TriggerPage),
-      cctv_(module, SSTab1, ActionPage),
-      dvr_(module, SSTab1, ActionPage),
-      classes_(module, SSTab1, ActionPage, cctv_.fraCCTVAction, dvr_.fraDVRAction),
+      classes_(module, SSTab1, ActionPage, panels_),
+      panels_(actionPanels(module, catalogue, SSTab1)),
       cmdApply("cmdApply", {4080, 7080, 1410, 390}, "Apply"),
       cmdOK("cmdOK", {5610, 7080, 1410, 390}, "OK"),
       cmdCancel("cmdCancel", {7140, 7080, 1410, 390}, "Cancel"),
       cmdHelp("cmdHelp", {8670, 7080, 1410, 390}, "&Help"),
-      saver_(module, catalogue, state_, {locations_, events_, classes_, cctv_, dvr_},
-             std::move(reloadSummary)) {
+      saver_(module, state_, {locations_, events_, classes_, panels_}, std::move(reloadSummary)) {
   addControls({&SSTab1});
-  for (const std::vector<Control*>& panel :
-       {locations_.controls(), events_.controls(), classes_.controls(), cctv_.controls(),
-        dvr_.controls()}) {
-    for (Control* control : panel) addControls({control});
+  for (const std::vector<Control*>& part :
+       {locations_.controls(), events_.controls(), classes_.controls()}) {
+    for (Control* control : part) addControls({control});
+  }
+  for (const auto& panel : panels_) {
+    for (Control* control : panel->controls()) addControls({control});
   }
   addControls({&cmdApply, &cmdOK, &cmdCancel, &cmdHelp});
   setDefaultButton(&cmdOK);
@@ -75,39 +86,50 @@ void frmTriggerAction::InitForm() {
     const bool eventRead = events_.InitTriggerTab(data.address, data.eventId);
     const bool actionRead = InitActionTab(data.actionId, data.deviceClassId);
     // A trigger that is not there any more, or of a foreign class, is not saved anyway.
-    const bool saved =
-        data.deviceClassId == device_class::cctv || data.deviceClassId == device_class::dvr;
+    const bool saved = panelOf(panels_, data.deviceClassId) != nullptr;
     const bool whole = triggerRead && (!saved || (eventRead && actionRead));
     state_.halfRead = !state_.addMode() && !whole;
   });
 }
 
 bool frmTriggerAction::readTrigger(TriggerData& data) {
-  const bool read = state_.m_ActionDeviceClass == device_class::cctv
-                        ? GetCCTVTriggerData(module_, state_.m_TriggerID, data)
-                        : GetTriggerData(module_, state_.m_TriggerID, data);
+  ActionPanel* panel = panelOf(panels_, state_.m_ActionDeviceClass);
+  const bool read = panel == nullptr ? GetTriggerData(module_, state_.m_TriggerID, data)
+                                     : panel->readTrigger(state_.m_TriggerID, data);
   state_.m_ActionID = data.actionId;
   return read;
 }
 
-// Both panels are loaded with the same ID; only the one of the trigger's own class has to be whole.
 bool frmTriggerAction::InitActionTab(std::int32_t actionId, std::int32_t deviceClass) {
   bool whole = false;
   guarded(module_, "frmTriggerAction.InitActionTab", [&] {
-    const Place& cctvPlace = cctv_.fraCCTVAction.place();
-    Place dvrPlace = dvr_.fraDVRAction.place();
-    dvrPlace.left = cctvPlace.left;
-    dvrPlace.top = cctvPlace.top;
-    dvr_.fraDVRAction.setPlace(dvrPlace);
-    cctv_.layOut();
+    placePanels();
+    for (const auto& panel : panels_) panel->prepare();
     const bool classesRead = classes_.LoadDeviceClassCombo(classes_.cmbActionDeviceClass);
-    dvr_.InitRecordRateTable();
-    const bool dvrRead = dvr_.LoadDVRAction(actionId);
-    const bool cctvRead = cctv_.LoadCCTVAction(actionId);
+    const bool panelRead = loadPanels(actionId, deviceClass);
     showAction(deviceClass);
-    const bool classStands = classesRead || classes_.selectedClass() == deviceClass;
-    whole = classStands && (deviceClass == device_class::cctv ? cctvRead : dvrRead);
+    whole = panelRead && (classesRead || classes_.selectedClass() == deviceClass);
   });
+  return whole;
+}
+
+// All stand where the first one does.
+void frmTriggerAction::placePanels() {
+  const Place corner = panels_.front()->frame().place();
+  for (const auto& panel : panels_) {
+    const Place& own = panel->frame().place();
+    panel->frame().setPlace({corner.left, corner.top, own.width, own.height});
+  }
+}
+
+// All are loaded with the same ID, the last one first; only the one of the trigger's own class has
+// to be whole.
+bool frmTriggerAction::loadPanels(std::int32_t actionId, std::int32_t deviceClass) {
+  bool whole = true;
+  for (const auto& panel : std::views::reverse(panels_)) {
+    const bool read = panel->load(actionId);
+    if (panel->deviceClass() == deviceClass) whole = read;
+  }
   return whole;
 }
 

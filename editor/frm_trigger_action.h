@@ -9,11 +9,10 @@
 #include "common/module1.h"
 #include "controls/form.h"
 #include "controls/tab_control.h"
-#include "editor/cctv_panel.h"
 #include "editor/device_classes.h"
-#include "editor/dvr_panel.h"
-#include "editor/editor_state.h"
 #include "editor/event_selection.h"
+#include "editor/panel/action_panel.h"
+#include "editor/panel/editor_state.h"
 #include "editor/trigger_action_saver.h"
 #include "editor/trigger_locations.h"
 
@@ -46,8 +45,11 @@ class frmTriggerAction : public Form, public LocationTarget {
  private:
   void InitForm();
   bool readTrigger(TriggerData& data);
-  // False when something of a trigger of this class that would be saved again could not be read.
+  // Of the panel of this class, when there is one: false when something of the trigger that would
+  // be saved again could not be read.
   bool InitActionTab(std::int32_t actionId, std::int32_t deviceClass);
+  void placePanels();
+  bool loadPanels(std::int32_t actionId, std::int32_t deviceClass);
   void showAction(std::int32_t deviceClass);
 
   Module1& module_;
@@ -58,9 +60,8 @@ class frmTriggerAction : public Form, public LocationTarget {
   TabControl SSTab1;
   TriggerLocations locations_;
   EventSelection events_;
-  CctvPanel cctv_;
-  DvrPanel dvr_;
   DeviceClasses classes_;
+  ActionPanels panels_;
   Button cmdApply;
   Button cmdOK;
   Button cmdCancel;

@@ -1,85 +1,63 @@
-// Turns what the panels hold into rows: in add mode one per location and checked event, in edit
+// Turns what the editor holds into rows: in add mode one per location and checked event, in edit
 // mode the one trigger. Nothing is transactional: what was written before a failure stays.
 #pragma once
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
-#include "catalog/event_catalogue.h"
 #include "common/form_links.h"
 #include "common/module1.h"
-#include "editor/cctv_panel.h"
 #include "editor/device_classes.h"
-#include "editor/dvr_action_store.h"
-#include "editor/dvr_panel.h"
-#include "editor/editor_state.h"
 #include "editor/event_selection.h"
+#include "editor/panel/action_panel.h"
+#include "editor/panel/editor_state.h"
+#include "editor/panel/save_steps.h"
 #include "editor/trigger_locations.h"
 
 namespace pelorin {
 
-struct EditorPanels {
+// What a save is made from.
+struct EditorParts {
   TriggerLocations& locations;
   EventSelection& events;
   DeviceClasses& classes;
-  CctvPanel& cctv;
-  DvrPanel& dvr;
+  const ActionPanels& panels;
 };
 
-class TriggerActionSaver {
+class TriggerActionSaver final : private SaveSteps {
  public:
-  TriggerActionSaver(Module1& module, EventCatalogue& catalogue, const EditorState& state,
-                     EditorPanels panels, ReloadSummary reloadSummary);
+  TriggerActionSaver(Module1& module, const EditorState& state, EditorParts parts,
+                     ReloadSummary reloadSummary);
 
   // True when the rows stand; the summary has then been asked to reload. False after a message or a
   // report, and without either for a class that cannot be saved. When the editor is closed
   // meanwhile it ends after the trigger in hand; the log then says how far it came.
   bool SaveTriggerAction();
-  bool SaveCCTVTriggerAction();
-  bool SaveDVRTriggerAction();
 
  private:
-  using Events = std::vector<CheckedEvent>;
-
   struct Progress {
     std::size_t planned = 0;
     std::size_t written = 0;
   };
 
   bool readWhole(std::int32_t deviceClass);
-  // Plans a trigger action per location and event.
-  void plan(std::size_t locations, const Events& events);
   void endWithoutWindows();
 
-  bool saveCctv();
-  bool updateCctv(const CctvValues& values);
-  void insertCctv(const CctvValues& values);
-  // The last argument is not looked at: the check box decides, event by event.
-  bool InsertCCTVTriggerActionForThisLocation(const std::string& address,
-                                              const std::string& locationText,
-                                              const CctvValues& values, bool returnToNormal,
-                                              const Events& events);
-  void insertCctvRow(const std::string& address, const std::string& locationText,
-                     const CctvValues& values, std::int32_t eventId);
-
-  bool saveDvr();
-  bool updateDvr(const DvrValues& values);
-  void insertDvr(const DvrValues& values);
-  bool GenerateTriggerActonForEventsAtThisLocation(const std::string& locationText,
-                                                   const DvrValues& values,
-                                                   std::int32_t deviceClass, const Events& events);
-
-  bool eventChosen();
+  const EditorState& state() const noexcept override { return state_; }
+  bool ValidateTriggerLocation() override { return parts_.locations.ValidateTriggerLocation(); }
+  bool eventChosen() override;
+  void planUpdate() override { progress_.planned = 1; }
+  std::string locationText() const override { return parts_.locations.txtLocation.text(); }
+  std::int32_t eventId() const override { return parts_.events.cmbEvents.selectedData(); }
+  void insertAtEachLocation(const InsertAtLocation& insert) override;
+  void triggerWritten() noexcept override { ++progress_.written; }
   void announce(const std::string& action, std::int32_t id, std::int32_t eventId,
-                std::int16_t code);
+                std::int16_t code) override;
 
   Module1& module_;
-  EventCatalogue& catalogue_;
   const EditorState& state_;
-  EditorPanels panels_;
+  EditorParts parts_;
   ReloadSummary reloadSummary_;
-  DvrActionStore dvrActions_;
   Progress progress_;
 };
 

@@ -1,5 +1,7 @@
 #include "editor/device_classes.h"
 
+#include "editor/cctv/cctv_panel.h"
+#include "editor/dvr/dvr_panel.h"
 #include "tests/editor/editor_site.h"
 
 namespace pelorin::test {
@@ -10,15 +12,16 @@ using ::testing::ElementsAre;
 class DeviceClassesTest : public ::testing::Test, protected EditorSite {
  protected:
   TabControl tabs{"SSTab1", {0, 0, 1000, 1000}, {"&Trigger", "&Action"}};
-  Frame cctv{"fraCCTVAction", {}, "CCTV Action"};
-  Frame dvr{"fraDVRAction", {}, "Trigger Alarm on DVR"};
-  DeviceClasses classes{module, tabs, 1, cctv, dvr};
+  ActionPanels panels;
+  Frame& cctv = add(std::make_unique<CctvPanel>(module, catalogue, tabs, 1));
+  Frame& dvr = add(std::make_unique<DvrPanel>(module, tabs, 1));
+  DeviceClasses classes{module, tabs, 1, panels};
   ComboBox& combo = classes.cmbActionDeviceClass;
 
-  void SetUp() override {
-    tabs.setTab(1);
-    cctv.setVisible(false);
-    dvr.setVisible(false);
+  void SetUp() override { tabs.setTab(1); }
+  Frame& add(std::unique_ptr<ActionPanel> panel) {
+    panels.push_back(std::move(panel));
+    return panels.back()->frame();
   }
   void load() { classes.LoadDeviceClassCombo(combo); }
 };

@@ -1,4 +1,6 @@
 // What works shows the hourglass and then leaves the pointer that was there before.
+#include "editor/cctv/cctv_panel.h"
+#include "editor/dvr/dvr_panel.h"
 #include "tests/editor/editor_site.h"
 
 namespace pelorin::test {
@@ -67,11 +69,11 @@ TEST_F(HourglassTest, ChoosingARecorderOrItsCamera) {
 
 TEST_F(HourglassTest, LoadingAPanelAlone) {
   TabControl tabs{"SSTab1", {}, {"&Trigger", "&Action"}};
-  CctvPanel cctv{module, tabs, 1};
-  cctv.LoadCCTVAction(0);
+  CctvPanel cctv{module, catalogue, tabs, 1};
+  cctv.load(0);
   expectHourglass();
   DvrPanel dvr{module, tabs, 1};
-  dvr.LoadDVRAction(0);
+  dvr.load(0);
   expectHourglass();
 }
 

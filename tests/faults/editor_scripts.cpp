@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <sstream>
 
+#include "editor/cctv/cctv_action.h"
+
 namespace pelorin::test {
 
 namespace {

@@ -58,9 +58,8 @@ const NamedFault formFaults[] = {
     {"frmTriggerAction.cmbActionDeviceClass_Click",
      [](NamedFaults& s) {
        TabControl tabs("SSTab1", {}, {"&Trigger", "&Action"});
-       Frame cctv("fraCCTVAction", {}, "");
-       Frame dvr("fraDVRAction", {}, "");
-       DeviceClasses(s.component.module(), tabs, 1, cctv, dvr).cmbActionDeviceClass_Click();
+       const ActionPanels none;
+       DeviceClasses(s.component.module(), tabs, 1, none).cmbActionDeviceClass_Click();
      }},
     {"frmTriggerAction.SaveTriggerAction",
      [](NamedFaults& s) {

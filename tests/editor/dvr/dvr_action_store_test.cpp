@@ -1,4 +1,4 @@
-#include "editor/dvr_action_store.h"
+#include "editor/dvr/dvr_action_store.h"
 
 #include "tests/editor/editor_site.h"
 
@@ -11,7 +11,10 @@ using ::testing::StartsWith;
 class DvrActionStoreTest : public ::testing::Test, protected Surroundings {
  protected:
   DvrActionStore store{module};
-  const DvrValues values{21, 2, 7.5, 45, 1, 43, 52, 61};
+  const Arguments values{{1, {"ID_DVR_Config", 21}}, {2, {"CameraIndex", 2}},
+                         {3, {"RecordRate", 7.5}},   {4, {"AlarmDuration", 45}},
+                         {5, {"RecordStandard", 1}}, {6, {"PresetID", 43}},
+                         {7, {"ViewGroupID", 52}},   {8, {"CommandSetID", 61}}};
   std::int32_t newId = 0;
 
   void answerId(Value id) {
@@ -57,8 +60,8 @@ TEST_F(DvrActionStoreTest, UpdatesByPositionalText) {
 
 TEST_F(DvrActionStoreTest, WritesTheRateWithoutAFixedNumberOfDecimals) {
   for (const double rate : {0.8, 2.0, 6.25, 15.0, 60.0}) {
-    DvrValues other = values;
-    other.rate = rate;
+    Arguments other = values;
+    other[3].value = rate;
     store.UpdateDVRAction(1, other);
   }
   EXPECT_THAT(database->statements(),

@@ -1,35 +1,18 @@
-#include "editor/cctv_panel.h"
+#include "editor/cctv/cctv_panel.h"
 
 #include <string>
 
 #include "common/combo_helpers.h"
 #include "common/guard.h"
-#include "editor/action_values.h"
-#include "editor/switcher_settings.h"
+#include "editor/cctv/cctv_action.h"
+#include "editor/cctv/cctv_save.h"
+#include "editor/cctv/switcher_settings.h"
 
 namespace pelorin {
 
-struct CctvPanel::StoredAction {
-  std::int32_t switcher;
-  std::int32_t action;
-  std::int32_t camera;
-  std::int32_t monitor;
-  std::int32_t preset;
-  bool openViewer;
-  std::string alarm;
-
-  explicit StoredAction(const RecordSet& row)
-      : switcher(row.int32("SwitcherID")),
-        action(row.int32("A_type")),
-        camera(row.int32("Camera")),
-        monitor(row.int32("Monitor")),
-        preset(row.int32("PresetID")),
-        openViewer(row.boolean("OpenViewer")),
-        alarm(row.text("SWAlarmIndex")) {}
-};
-
-CctvPanel::CctvPanel(Module1& module, TabControl& tabs, int page)
-    : fraCCTVAction("fraCCTVAction", {180, 1080, 9600, 5550}, "CCTV Action"),
+CctvPanel::CctvPanel(Module1& module, EventCatalogue& catalogue, TabControl& tabs, int page)
+    : ActionPanel(module),
+      fraCCTVAction("fraCCTVAction", {180, 1080, 9600, 5550}, "CCTV Action"),
       lblCCTVSwitchers("lblCCTVSwitchers", {240, 465, 1140, 255}, "Switcher:"),
       cmbCCTVSwitchers("cmbCCTVSwitchers", {1440, 420, 4500, 330}),
       cmbCCTVHiddenININameCache("cmbCCTVHiddenININameCache", {6300, 420, 1500, 330}),
@@ -48,7 +31,15 @@ CctvPanel::CctvPanel(Module1& module, TabControl& tabs, int page)
       chkCCTVAutoRTNTriggers(
           "chkCCTVAutoRTNTriggers", {1440, 3780, 8100, 330},
           "Automatically generate RTN triggers to acknowledge alarms on switcher"),
-      module_(module) {
+      catalogue_(catalogue),
+      // The switcher reloads every list below it, the camera the presets.
+      fields_{{1, "SwitcherID", choice(cmbCCTVSwitchers, "Switcher")},
+              {2, "Monitor", narrow(choice(cmbCCTVMonitors, "Monitor", Needed::WhileVisible))},
+              {3, "Camera", narrow(choice(cmbCCTVCameras, "Camera", Needed::WhileVisible))},
+              {4, "PresetID", narrow(choice(cmbCCTVPresets, "Preset", Needed::Never))},
+              {cctv_argument::action, "A_type", narrow(choice(cmbCCTVActions, "Action"))},
+              {10, "SWAlarmIndex", narrow(wholeNumber(txtCCTVAlarm))},
+              {11, "OpenViewer", mark(chkCCTVDisplayViewer)}} {
   for (Control* control : controls()) control->setContainer(fraCCTVAction);
   fraCCTVAction.setContainer(tabs, page);
   fraCCTVAction.setVisible(false);
@@ -67,7 +58,7 @@ std::vector<Control*> CctvPanel::controls() {
           &lblCCTVAlarm,   &txtCCTVAlarm,     &chkCCTVAutoRTNTriggers, &cmbCCTVHiddenININameCache};
 }
 
-void CctvPanel::layOut() {
+void CctvPanel::prepare() {
   const auto moveTo = [](Control& control, int left, int top) {
     control.setPlace({left, top, control.place().width, control.place().height});
   };
@@ -79,7 +70,11 @@ void CctvPanel::layOut() {
   chkCCTVAutoRTNTriggers.setChecked(false);
 }
 
-bool CctvPanel::LoadCCTVAction(std::int32_t taId) {
+bool CctvPanel::readTrigger(std::int32_t triggerId, TriggerData& data) {
+  return GetCCTVTriggerData(module_, triggerId, data);
+}
+
+bool CctvPanel::load(std::int32_t taId) {
   bool whole = true;
   const bool read = guarded(module_, "frmTriggerAction.LoadCCTVAction", [&] {
     const HourglassPointer hourglass(module_.screen());
@@ -87,40 +82,27 @@ bool CctvPanel::LoadCCTVAction(std::int32_t taId) {
     if (taId <= 0) return;
     RecordSet rows = module_.DBConnection()->open(
         "select * from CCTV_TriggerAction where TA_ID = " + std::to_string(taId));
-    if (!rows.next()) return;
-    const StoredAction stored(rows);
-    rows.close();
-    showStored(stored);
-    whole = showsWhole(stored);
+    if (rows.next()) whole = showStored(fields_, rows);
   });
   return read && whole;
 }
 
-// The controls that the action hides are saved with what they hold.
-bool CctvPanel::showsWhole(const StoredAction& stored) const {
-  const auto stands = [](const ComboBox& combo, std::int32_t value, bool listRead) {
-    return standsFor(combo, value, listRead, !combo.visible());
-  };
-  return standsFor(cmbCCTVSwitchers, stored.switcher, read_.switchers) &&
-         standsFor(cmbCCTVActions, stored.action, read_.actions) &&
-         stands(cmbCCTVCameras, stored.camera, read_.cameras) &&
-         stands(cmbCCTVMonitors, stored.monitor, read_.monitors) &&
-         standsFor(cmbCCTVPresets, stored.preset, read_.presets, true);
+bool CctvPanel::save(SaveSteps& steps) {
+  return guardedOr(module_, "frmTriggerAction.SaveCCTVTriggerAction", false, [&] {
+    if (!steps.ValidateTriggerLocation()) return false;
+    if (cmbCCTVSwitchers.listIndex() < 0) {
+      module_.inform("Cannot save trigger. There are no CCTV units defined for this trigger");
+      return false;
+    }
+    CctvSave save(module_, catalogue_, steps, readValues(fields_), chkCCTVAutoRTNTriggers);
+    if (steps.state().m_TriggerID != 0) return save.update();
+    save.insert();
+    return true;
+  });
 }
 
-void CctvPanel::showStored(const StoredAction& stored) {
-  SelectComboItemByData(cmbCCTVSwitchers, stored.switcher);
-  SelectComboItemByData(cmbCCTVActions, stored.action);
-  SelectComboItemByData(cmbCCTVCameras, stored.camera);
-  SelectComboItemByData(cmbCCTVMonitors, stored.monitor);
-  SelectComboItemByData(cmbCCTVPresets, stored.preset);
-  chkCCTVDisplayViewer.setChecked(stored.openViewer);
-  txtCCTVAlarm.setText(stored.alarm);
-}
-
-void CctvPanel::LoadCCTVSwitcherCombo(ComboBox& combo) {
-  read_.switchers = guarded(module_, "frmTriggerAction.LoadCCTVSwitcherCombo", [&] {
-    m_bLoadingCCTVSwitchers = true;
+void CctvPanel::LoadCCTVSwitcherCombo(FieldCombo& combo) {
+  combo.listRead = guarded(module_, "frmTriggerAction.LoadCCTVSwitcherCombo", [&] {
     RecordSet rows =
         module_.DBConnection()->open("select SwitcherID, Name, INI_FILE from CCTV_Switchers");
     while (rows.next()) {
@@ -128,7 +110,6 @@ void CctvPanel::LoadCCTVSwitcherCombo(ComboBox& combo) {
       cmbCCTVHiddenININameCache.addItem(rows.text("INI_FILE"));
     }
     selectFirstRow(combo);
-    m_bLoadingSwitchers = false;
   });
 }
 
@@ -143,8 +124,8 @@ void CctvPanel::cmbCCTVSwitchers_Click() {
   });
 }
 
-void CctvPanel::InitCCTVActionCombo(ComboBox& combo) {
-  read_.actions = guarded(module_, "frmTriggerAction.InitCCTVActionCombo", [&] {
+void CctvPanel::InitCCTVActionCombo(FieldCombo& combo) {
+  combo.listRead = guarded(module_, "frmTriggerAction.InitCCTVActionCombo", [&] {
     combo.clear();
     combo.addItem(module_.GetCCTVActionName(cctv_action::callCamera), cctv_action::callCamera);
     for (const std::int16_t action : {cctv_action::raiseAlarm, cctv_action::acknowledgeAlarm}) {
@@ -161,11 +142,11 @@ void CctvPanel::IsCCTVActionSupported(std::int16_t action, bool& supported) cons
   supported = switcherSupports(module_, name.text, action);
 }
 
-void CctvPanel::InitCCTVCameras(ComboBox& combo, std::int32_t switcherId) {
-  read_.cameras = guarded(module_, "frmTriggerAction.InitCCTVCameras", [&] {
+void CctvPanel::InitCCTVCameras(FieldCombo& combo, std::int32_t switcherId) {
+  combo.listRead = guarded(module_, "frmTriggerAction.InitCCTVCameras", [&] {
     combo.clear();
     cmbCCTVPresets.clear();
-    read_.presets = true;
+    cmbCCTVPresets.listRead = true;
     RecordSet rows = module_.DBConnection()->open(
         "select Name, [Index] from CCTV_Cameras where SwitcherId =" + std::to_string(switcherId) +
         " order by [index]");
@@ -174,8 +155,8 @@ void CctvPanel::InitCCTVCameras(ComboBox& combo, std::int32_t switcherId) {
   });
 }
 
-void CctvPanel::InitCCTVMonitors(ComboBox& combo, std::int32_t switcherId) {
-  read_.monitors = guarded(module_, "frmTriggerAction.InitCCTVMonitors", [&] {
+void CctvPanel::InitCCTVMonitors(FieldCombo& combo, std::int32_t switcherId) {
+  combo.listRead = guarded(module_, "frmTriggerAction.InitCCTVMonitors", [&] {
     combo.clear();
     RecordSet rows = module_.DBConnection()->open(
         "select nOutputs from CCTV_Switchers where SwitcherId = " + std::to_string(switcherId));
@@ -197,9 +178,9 @@ void CctvPanel::cmbCCTVCameras_Click() {
   });
 }
 
-void CctvPanel::InitCCTVCameraPresets(std::int32_t switcherId, ComboBox& combo,
+void CctvPanel::InitCCTVCameraPresets(std::int32_t switcherId, FieldCombo& combo,
                                       std::int32_t cameraIndex) {
-  read_.presets = guarded(module_, "frmTriggerAction.InitCCTVCameraPresets", [&] {
+  combo.listRead = guarded(module_, "frmTriggerAction.InitCCTVCameraPresets", [&] {
     combo.clear();
     RecordSet rows =
         module_.DBConnection()->open("CCTV_FetchCameraNoPresets " + std::to_string(cameraIndex) +

@@ -1,4 +1,4 @@
-#include "editor/cctv_panel.h"
+#include "editor/cctv/cctv_panel.h"
 
 #include "tests/editor/editor_site.h"
 
@@ -15,12 +15,12 @@ using ::testing::StartsWith;
 class CctvPanelTest : public ::testing::Test, protected EditorSite {
  protected:
   TabControl tabs{"SSTab1", {0, 0, 1000, 1000}, {"&Trigger", "&Action"}};
-  CctvPanel panel{module, tabs, 1};
+  CctvPanel panel{module, catalogue, tabs, 1};
 
   void SetUp() override {
     tabs.setTab(1);
     panel.fraCCTVAction.setVisible(true);
-    panel.layOut();
+    panel.prepare();
   }
   void forbid(const std::string& name, const std::string& key, const std::string& value) {
     environment.settings["C:\\Component\\CCTV\\" + name + ".INI|UNSUPPORTED|" + key] = value;
@@ -37,7 +37,7 @@ class CctvPanelTest : public ::testing::Test, protected EditorSite {
 };
 
 TEST_F(CctvPanelTest, LoadsTheFirstSwitcherAndAllThatHangsOnIt) {
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_THAT(texts(panel.cmbCCTVSwitchers), ElementsAre("North", "South"));
   EXPECT_THAT(texts(panel.cmbCCTVHiddenININameCache), ElementsAre("north", "south"));
   EXPECT_THAT(texts(panel.cmbCCTVActions),
@@ -53,7 +53,7 @@ TEST_F(CctvPanelTest, LoadsTheFirstSwitcherAndAllThatHangsOnIt) {
 }
 
 TEST_F(CctvPanelTest, SendsItsStatementsInOrder) {
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_THAT(database->statements(),
               ElementsAre("select SwitcherID, Name, INI_FILE from CCTV_Switchers",
                           "select Name, [Index] from CCTV_Cameras where SwitcherId =11 order by "
@@ -63,7 +63,7 @@ TEST_F(CctvPanelTest, SendsItsStatementsInOrder) {
 }
 
 TEST_F(CctvPanelTest, RowsCarryTheirNumbers) {
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_EQ(panel.cmbCCTVSwitchers.row(1).itemData, 12);
   EXPECT_EQ(panel.cmbCCTVActions.row(2).itemData, 3);
   EXPECT_EQ(panel.cmbCCTVCameras.row(1).itemData, 2);
@@ -74,7 +74,7 @@ TEST_F(CctvPanelTest, RowsCarryTheirNumbers) {
 TEST_F(CctvPanelTest, WithoutASwitcherEverythingStaysEmpty) {
   database->answer("select SwitcherID, Name, INI_FILE from CCTV_Switchers",
                    {{"SwitcherID", "Name", "INI_FILE"}, {}});
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   for (const ComboBox* combo :
        {&panel.cmbCCTVSwitchers, &panel.cmbCCTVActions, &panel.cmbCCTVCameras,
         &panel.cmbCCTVPresets, &panel.cmbCCTVMonitors}) {
@@ -89,7 +89,7 @@ TEST_F(CctvPanelTest, ANullSettingsNameKeepsTheCombosParallel) {
       "select SwitcherID, Name, INI_FILE from CCTV_Switchers",
       {{"SwitcherID", "Name", "INI_FILE"}, {{11, "North", Null()}, {12, "South", "south"}}});
   forbid("south", "Action2", "1");
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_THAT(texts(panel.cmbCCTVHiddenININameCache), ElementsAre("", "south"));
   panel.cmbCCTVSwitchers.userSelect(1);
   EXPECT_THAT(texts(panel.cmbCCTVActions), ElementsAre("Call camera", "Acknowledge alarm"));
@@ -97,38 +97,38 @@ TEST_F(CctvPanelTest, ANullSettingsNameKeepsTheCombosParallel) {
 
 TEST_F(CctvPanelTest, AnActionInTheSettingsFileIsNotOffered) {
   forbid("north", "Action2", "yes");
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_THAT(texts(panel.cmbCCTVActions), ElementsAre("Call camera", "Acknowledge alarm"));
 }
 
 TEST_F(CctvPanelTest, AnEmptyValueForbidsTheActionToo) {
   forbid("north", "Action3", "");
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_THAT(texts(panel.cmbCCTVActions), ElementsAre("Call camera", "Raise alarm"));
 }
 
 TEST_F(CctvPanelTest, TheFirstActionIsAlwaysOffered) {
   forbid("north", "Action1", "1");
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_EQ(panel.cmbCCTVActions.listCount(), 3);
 }
 
 TEST_F(CctvPanelTest, AValueThatReadsNotInitializedIsAsGoodAsNone) {
   forbid("north", "Action2", "NOTINITIALIZED");
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_EQ(panel.cmbCCTVActions.listCount(), 3);
 }
 
 TEST_F(CctvPanelTest, TheSettingsOfTheChosenSwitcherCount) {
   forbid("south", "Action2", "1");
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_EQ(panel.cmbCCTVActions.listCount(), 3);
   panel.cmbCCTVSwitchers.userSelect(1);
   EXPECT_EQ(panel.cmbCCTVActions.listCount(), 2);
 }
 
 TEST_F(CctvPanelTest, AnotherSwitcherRefillsActionsCamerasPresetsAndMonitors) {
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   panel.cmbCCTVSwitchers.userSelect(1);
   EXPECT_THAT(texts(panel.cmbCCTVCameras), ElementsAre("Dock"));
   EXPECT_THAT(texts(panel.cmbCCTVPresets), ElementsAre("Ramp"));
@@ -138,7 +138,7 @@ TEST_F(CctvPanelTest, AnotherSwitcherRefillsActionsCamerasPresetsAndMonitors) {
 TEST_F(CctvPanelTest, ASwitcherWithoutCamerasHasNoPresetsEither) {
   database->answer("select Name, [Index] from CCTV_Cameras where SwitcherId =12 order by [index]",
                    {{"Name", "Index"}, {}});
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   panel.cmbCCTVSwitchers.userSelect(1);
   EXPECT_EQ(panel.cmbCCTVCameras.listCount(), 0);
   EXPECT_EQ(panel.cmbCCTVPresets.listCount(), 0);
@@ -167,13 +167,13 @@ TEST_F(CctvPanelTest, MoreOutputsThanSixteenBitsAreAnError) {
 }
 
 TEST_F(CctvPanelTest, AnotherCameraRefillsThePresets) {
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   panel.cmbCCTVCameras.userSelect(1);
   EXPECT_THAT(texts(panel.cmbCCTVPresets), ElementsAre("Fence"));
 }
 
 TEST_F(CctvPanelTest, CallingACameraShowsTheCameraControls) {
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   panel.cmbCCTVActions.userSelect(1);
   panel.chkCCTVAutoRTNTriggers.userToggle();
   panel.cmbCCTVActions.userSelect(0);
@@ -184,7 +184,7 @@ TEST_F(CctvPanelTest, CallingACameraShowsTheCameraControls) {
 }
 
 TEST_F(CctvPanelTest, RaisingAnAlarmShowsTheAlarmControls) {
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   panel.cmbCCTVActions.userSelect(1);
   EXPECT_THAT(cameraControlsVisible(), Each(false));
   EXPECT_THAT(alarmControlsVisible(), Each(true));
@@ -192,7 +192,7 @@ TEST_F(CctvPanelTest, RaisingAnAlarmShowsTheAlarmControls) {
 }
 
 TEST_F(CctvPanelTest, AcknowledgingAfterRaisingClearsTheReturnToNormalCheckBox) {
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   panel.cmbCCTVActions.userSelect(1);
   panel.chkCCTVAutoRTNTriggers.userToggle();
   ASSERT_TRUE(panel.chkCCTVAutoRTNTriggers.checked());
@@ -204,7 +204,7 @@ TEST_F(CctvPanelTest, AcknowledgingAfterRaisingClearsTheReturnToNormalCheckBox) 
 }
 
 TEST_F(CctvPanelTest, AnUnknownActionChangesNothing) {
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   panel.cmbCCTVActions.addItem("Something else", 4);
   panel.cmbCCTVActions.userSelect(3);
   EXPECT_THAT(cameraControlsVisible(), Each(true));
@@ -235,7 +235,7 @@ TEST_F(CctvPanelTest, TheSettingsNamesAreNeverVisible) {
 
 TEST_F(CctvPanelTest, ShowsAStoredActionWhole) {
   answerCctvTrigger(5, {5, "1.2.3", 100, 12, 2, 5, 2, 39, true, 17});
-  panel.LoadCCTVAction(5);
+  panel.load(5);
   EXPECT_EQ(panel.cmbCCTVSwitchers.selectedData(), 12);
   EXPECT_EQ(panel.cmbCCTVActions.selectedData(), 2);
   EXPECT_EQ(panel.cmbCCTVCameras.selectedData(), 5);
@@ -248,25 +248,25 @@ TEST_F(CctvPanelTest, ShowsAStoredActionWhole) {
 
 TEST_F(CctvPanelTest, TheViewerOfAStoredActionIsAnyNumberButZero) {
   answerCctvTrigger(5, {5, "1.2.3", 100, 11, 1, 1, 1, 31, -1, 0});
-  panel.LoadCCTVAction(5);
+  panel.load(5);
   EXPECT_TRUE(panel.chkCCTVDisplayViewer.checked());
 }
 
 TEST_F(CctvPanelTest, TheStoredRowIsReadAfterTheSwitchers) {
-  panel.LoadCCTVAction(5);
+  panel.load(5);
   EXPECT_EQ(database->statements().back(), "select * from CCTV_TriggerAction where TA_ID = 5");
 }
 
 TEST_F(CctvPanelTest, TheStoredRowIsClosedBeforeTheCombosAreRefilled) {
   answerCctvTrigger(5, {5, "1.2.3", 100, 12, 2, 5, 2, 39, true, 17});
-  panel.LoadCCTVAction(5);
+  panel.load(5);
   EXPECT_EQ(database->mostOpenCursors(), 1);
   EXPECT_EQ(database->openCursors(), 0);
 }
 
 TEST_F(CctvPanelTest, ACameraThatIsGoneKeepsTheFirstOneAndItsPresets) {
   answerCctvTrigger(5, {5, "1.2.3", 100, 11, 1, 99, 1, 98, 0, 0});
-  panel.LoadCCTVAction(5);
+  panel.load(5);
   EXPECT_EQ(panel.cmbCCTVCameras.selectedData(), 1);
   EXPECT_THAT(texts(panel.cmbCCTVPresets), ElementsAre("Entry", "Exit"));
   EXPECT_EQ(panel.cmbCCTVPresets.selectedData(), 31);
@@ -274,7 +274,7 @@ TEST_F(CctvPanelTest, ACameraThatIsGoneKeepsTheFirstOneAndItsPresets) {
 
 TEST_F(CctvPanelTest, NullsOfAStoredActionAreEmptyAndZero) {
   answerCctvTrigger(5, {5, Null(), Null(), 11, 1, Null(), Null(), Null(), Null(), Null()});
-  panel.LoadCCTVAction(5);
+  panel.load(5);
   EXPECT_EQ(panel.txtCCTVAlarm.text(), "");
   EXPECT_FALSE(panel.chkCCTVDisplayViewer.checked());
   EXPECT_TRUE(screen.boxes.empty());
@@ -291,7 +291,7 @@ class CctvPanelErrors : public CctvPanelTest,
 TEST_P(CctvPanelErrors, AreReportedOnceUnderTheProceduresName) {
   answerCctvTrigger(5, {5, "1.2.3", 100, 11, 1, 1, 1, 31, 0, 0});
   database->fail(GetParam().sql, "broken");
-  panel.LoadCCTVAction(5);
+  panel.load(5);
   ASSERT_EQ(screen.boxes.size(), 1U);
   EXPECT_THAT(screen.boxes[0].text,
               AllOf(StartsWith(GetParam().procedure + ": Line: "), HasSubstr(" :broken")));
@@ -317,14 +317,14 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(CctvPanelTest, RowsBeforeAFailingFetchStay) {
   database->failFetch(
       "select Name, [Index] from CCTV_Cameras where SwitcherId =11 order by [index]", 1);
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_THAT(texts(panel.cmbCCTVCameras), ElementsAre("Gate"));
   EXPECT_EQ(panel.cmbCCTVCameras.listIndex(), -1);
   EXPECT_THAT(texts(panel.cmbCCTVMonitors), ElementsAre("1", "2", "3", "4"));
 }
 
 TEST_F(CctvPanelTest, AFailingCameraListLeavesNoPresetsOfAnotherCamera) {
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   database->fail("select Name, [Index] from CCTV_Cameras where SwitcherId =12 order by [index]");
   panel.cmbCCTVSwitchers.userSelect(1);
   EXPECT_EQ(panel.cmbCCTVPresets.listCount(), 0);
@@ -332,7 +332,7 @@ TEST_F(CctvPanelTest, AFailingCameraListLeavesNoPresetsOfAnotherCamera) {
 
 TEST_F(CctvPanelTest, AnActionNameTheHostCannotGiveIsEmpty) {
   services->failing.insert("GetResourceString");
-  panel.LoadCCTVAction(0);
+  panel.load(0);
   EXPECT_THAT(texts(panel.cmbCCTVActions), ElementsAre("", "", ""));
   EXPECT_EQ(screen.boxes.size(), 3U);
   EXPECT_THAT(screen.boxTexts(), Each(StartsWith("MPublic: GRS: ")));

@@ -1,4 +1,4 @@
-#include "editor/dvr_panel.h"
+#include "editor/dvr/dvr_panel.h"
 
 #include "tests/editor/editor_site.h"
 
@@ -19,7 +19,7 @@ class DvrPanelTest : public ::testing::Test, protected EditorSite {
   void SetUp() override {
     tabs.setTab(1);
     panel.fraDVRAction.setVisible(true);
-    panel.InitRecordRateTable();
+    panel.prepare();
   }
   std::string clamped(const std::string& text) {
     duration.setText(text);
@@ -29,7 +29,7 @@ class DvrPanelTest : public ::testing::Test, protected EditorSite {
 };
 
 TEST_F(DvrPanelTest, LoadsTheFirstRecorderAndAllThatHangsOnIt) {
-  panel.LoadDVRAction(0);
+  panel.load(0);
   EXPECT_THAT(texts(panel.cmbDVRUnit), ElementsAre("Recorder A", "Recorder B"));
   EXPECT_THAT(texts(panel.cmbDVRCamera), ElementsAre("Lobby", "Hall"));
   EXPECT_THAT(texts(panel.cmbDVRCameraPresets), ElementsAre("<No preset>", "Desk", "Door"));
@@ -43,7 +43,7 @@ TEST_F(DvrPanelTest, LoadsTheFirstRecorderAndAllThatHangsOnIt) {
 }
 
 TEST_F(DvrPanelTest, SendsItsStatementsInOrder) {
-  panel.LoadDVRAction(0);
+  panel.load(0);
   EXPECT_THAT(
       database->statements(),
       ElementsAre("select ID, DVRName from DVR_Config",
@@ -58,7 +58,7 @@ TEST_F(DvrPanelTest, SendsItsStatementsInOrder) {
 }
 
 TEST_F(DvrPanelTest, ANewActionStartsWithNtscTheFirstViewGroupAndFifteenSeconds) {
-  panel.LoadDVRAction(0);
+  panel.load(0);
   EXPECT_EQ(panel.cmbRecordStandard.selectedData(), 1);
   EXPECT_EQ(panel.cmbDVRRecordRate.row(panel.cmbDVRRecordRate.listIndex()).text, "15.0 ips");
   EXPECT_EQ(panel.cmbDVRViewGroups.listIndex(), 0);
@@ -72,7 +72,7 @@ TEST_F(DvrPanelTest, TheStandardsAreThereFromTheStart) {
 }
 
 TEST_F(DvrPanelTest, SwitchingToPalRefillsTheRatesAndSelectsTwelveAndAHalf) {
-  panel.LoadDVRAction(0);
+  panel.load(0);
   panel.cmbDVRRecordRate.userSelect(5);
   panel.cmbRecordStandard.userSelect(1);
   EXPECT_EQ(panel.cmbDVRRecordRate.row(panel.cmbDVRRecordRate.listIndex()).text, "12.5 ips");
@@ -81,7 +81,7 @@ TEST_F(DvrPanelTest, SwitchingToPalRefillsTheRatesAndSelectsTwelveAndAHalf) {
 
 TEST_F(DvrPanelTest, WithoutARecorderEverythingThatHangsOnItStaysEmpty) {
   database->answer("select ID, DVRName from DVR_Config", {{"ID", "DVRName"}, {}});
-  panel.LoadDVRAction(0);
+  panel.load(0);
   EXPECT_EQ(panel.cmbDVRCamera.listCount(), 0);
   EXPECT_EQ(panel.cmbDVRCameraPresets.listCount(), 0);
   EXPECT_EQ(panel.cmbCommandSet.listCount(), 0);
@@ -91,7 +91,7 @@ TEST_F(DvrPanelTest, WithoutARecorderEverythingThatHangsOnItStaysEmpty) {
 }
 
 TEST_F(DvrPanelTest, VendorFourTakesNoDurationAndNoPreset) {
-  panel.LoadDVRAction(0);
+  panel.load(0);
   panel.cmbDVRCameraPresets.userSelect(2);
   panel.cmbDVRUnit.userSelect(1);
   EXPECT_EQ(duration.text(), "0");
@@ -102,7 +102,7 @@ TEST_F(DvrPanelTest, VendorFourTakesNoDurationAndNoPreset) {
 }
 
 TEST_F(DvrPanelTest, AnotherRecorderEnablesThemAgainWithFifteenSeconds) {
-  panel.LoadDVRAction(0);
+  panel.load(0);
   panel.cmbDVRUnit.userSelect(1);
   panel.cmbDVRUnit.userSelect(0);
   EXPECT_EQ(duration.text(), "15");
@@ -112,7 +112,7 @@ TEST_F(DvrPanelTest, AnotherRecorderEnablesThemAgainWithFifteenSeconds) {
 
 TEST_F(DvrPanelTest, TheVendorIsZeroWhenNoRowComesBack) {
   database->answer("EXECUTE DVR_Getvendorinfo 21", {{"DVRVendorID"}, {}});
-  panel.LoadDVRAction(0);
+  panel.load(0);
   panel.cmbDVRUnit.userSelect(1);
   panel.cmbDVRUnit.userSelect(0);
   EXPECT_EQ(panel.vendorType(), 0);
@@ -124,7 +124,7 @@ TEST_F(DvrPanelTest, ARecorderWithoutCamerasHasNoPresetsEither) {
       "select CameraIndex, CameraName from DVR_Cameras where ID_DVR_Config = 22 order by "
       "CameraIndex",
       {{"CameraIndex", "CameraName"}, {}});
-  panel.LoadDVRAction(0);
+  panel.load(0);
   panel.cmbDVRUnit.userSelect(1);
   EXPECT_EQ(panel.cmbDVRCamera.listCount(), 0);
   EXPECT_EQ(panel.cmbDVRCameraPresets.listCount(), 0);
@@ -132,7 +132,7 @@ TEST_F(DvrPanelTest, ARecorderWithoutCamerasHasNoPresetsEither) {
 }
 
 TEST_F(DvrPanelTest, AnotherCameraRefillsThePresets) {
-  panel.LoadDVRAction(0);
+  panel.load(0);
   panel.cmbDVRCamera.userSelect(1);
   EXPECT_THAT(texts(panel.cmbDVRCameraPresets), ElementsAre("<No preset>", "Stairs"));
   EXPECT_EQ(panel.cmbDVRCameraPresets.listIndex(), 0);
@@ -145,7 +145,7 @@ TEST_F(DvrPanelTest, ViewGroupsSelectNoRowByThemselves) {
 
 TEST_F(DvrPanelTest, ShowsAStoredActionWhole) {
   answerDvrAction(3, {21, 2, 0, 6.25, 45, 43, 52, 61});
-  panel.LoadDVRAction(3);
+  panel.load(3);
   EXPECT_EQ(panel.cmbDVRUnit.selectedData(), 21);
   EXPECT_EQ(panel.cmbDVRCamera.selectedData(), 2);
   EXPECT_EQ(panel.cmbRecordStandard.selectedData(), 0);
@@ -158,39 +158,39 @@ TEST_F(DvrPanelTest, ShowsAStoredActionWhole) {
 
 TEST_F(DvrPanelTest, AStoredRateThatIsNotInTheTableSelectsIndexThree) {
   answerDvrAction(3, {21, 1, 1, 10.0, 45, 0, 0, 0});
-  panel.LoadDVRAction(3);
+  panel.load(3);
   EXPECT_EQ(panel.cmbDVRRecordRate.listIndex(), 3);
 }
 
 TEST_F(DvrPanelTest, AStoredStandardAboveOneIsNtscAndBelowZeroPal) {
   answerDvrAction(3, {21, 1, 9, 60.0, 45, 0, 0, 0});
   answerDvrAction(4, {21, 1, -1, 50.0, 45, 0, 0, 0});
-  panel.LoadDVRAction(3);
+  panel.load(3);
   EXPECT_EQ(panel.cmbRecordStandard.selectedData(), 1);
   EXPECT_EQ(panel.cmbDVRRecordRate.listIndex(), 5);
   DvrPanel other{module, tabs, 1};
-  other.InitRecordRateTable();
-  other.LoadDVRAction(4);
+  other.prepare();
+  other.load(4);
   EXPECT_EQ(other.cmbRecordStandard.selectedData(), 0);
   EXPECT_EQ(other.cmbDVRRecordRate.listIndex(), 5);
 }
 
 TEST_F(DvrPanelTest, AStoredDurationShowsInTheDisabledBoxOfVendorFour) {
   answerDvrAction(3, {22, 7, 1, 15.0, 45, 44, 0, 0});
-  panel.LoadDVRAction(3);
+  panel.load(3);
   EXPECT_EQ(duration.text(), "45");
   EXPECT_FALSE(duration.enabled());
 }
 
 TEST_F(DvrPanelTest, AViewGroupThatIsGoneLeavesNoSelection) {
   answerDvrAction(3, {21, 1, 1, 15.0, 45, 0, 99, 0});
-  panel.LoadDVRAction(3);
+  panel.load(3);
   EXPECT_EQ(panel.cmbDVRViewGroups.listIndex(), -1);
 }
 
 TEST_F(DvrPanelTest, TheStoredRowIsClosedBeforeTheCombosAreRefilled) {
   answerDvrAction(3, {22, 7, 1, 15.0, 45, 44, 0, 0});
-  panel.LoadDVRAction(3);
+  panel.load(3);
   EXPECT_EQ(database->mostOpenCursors(), 1);
   EXPECT_EQ(database->openCursors(), 0);
 }
@@ -238,7 +238,7 @@ class DvrPanelErrors : public DvrPanelTest, public ::testing::WithParamInterface
 
 TEST_P(DvrPanelErrors, AreReportedOnceUnderTheProceduresName) {
   database->fail(GetParam().sql, "broken");
-  panel.LoadDVRAction(0);
+  panel.load(0);
   ASSERT_EQ(screen.boxes.size(), 1U);
   EXPECT_THAT(screen.boxes[0].text,
               AllOf(StartsWith(GetParam().procedure + ": Line: "), HasSubstr(" :broken")));
@@ -265,7 +265,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(DvrPanelTest, AHostWithoutOperatorIsReportedByTheCommandSets) {
   services->failing.insert("OperatorID");
-  panel.LoadDVRAction(0);
+  panel.load(0);
   ASSERT_EQ(screen.boxes.size(), 1U);
   EXPECT_THAT(screen.boxes[0].text, StartsWith("frmTriggerAction.LoadCommandSetCombo: "));
   EXPECT_THAT(texts(panel.cmbCommandSet), ElementsAre("<None>"));
@@ -273,14 +273,14 @@ TEST_F(DvrPanelTest, AHostWithoutOperatorIsReportedByTheCommandSets) {
 
 TEST_F(DvrPanelTest, UnitsThatFailHalfwayAreNoLongerBeingLoaded) {
   database->failFetch("select ID, DVRName from DVR_Config", 1);
-  panel.LoadDVRAction(0);
+  panel.load(0);
   EXPECT_THAT(texts(panel.cmbDVRUnit), ElementsAre("Recorder A"));
   panel.cmbDVRUnit.userSelect(0);
   EXPECT_THAT(texts(panel.cmbDVRCamera), ElementsAre("Lobby", "Hall"));
 }
 
 TEST_F(DvrPanelTest, AFailingVendorQueryKeepsTheVendorThatWasKnown) {
-  panel.LoadDVRAction(0);
+  panel.load(0);
   panel.cmbDVRUnit.userSelect(1);
   database->fail("EXECUTE DVR_Getvendorinfo 21");
   panel.cmbDVRUnit.userSelect(0);

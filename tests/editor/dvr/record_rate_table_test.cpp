@@ -1,4 +1,4 @@
-#include "editor/record_rate_table.h"
+#include "editor/dvr/record_rate_table.h"
 
 #include "tests/editor/editor_site.h"
 

@@ -1,12 +1,13 @@
-#include "editor/dvr_panel.h"
+#include "editor/dvr/dvr_panel.h"
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "common/combo_helpers.h"
 #include "common/guard.h"
 #include "controls/flag_while.h"
-#include "editor/action_values.h"
+#include "editor/dvr/dvr_save.h"
 
 namespace pelorin {
 
@@ -24,29 +25,9 @@ double durationOf(std::string_view text) {
 
 }  // namespace
 
-struct DvrPanel::StoredAction {
-  std::int32_t recorder;
-  std::int32_t camera;
-  std::int16_t standard;
-  double rate;
-  std::string duration;
-  std::int32_t preset;
-  std::int32_t viewGroup;
-  std::int32_t commandSet;
-
-  explicit StoredAction(const RecordSet& row)
-      : recorder(row.int32("ID_DVR_Config")),
-        camera(row.int32("CameraIndex")),
-        standard(knownStandard(row.int32("RecordStandard"))),
-        rate(row.real("RecordRate")),
-        duration(row.text("AlarmDuration")),
-        preset(row.int32("ptzPresetID")),
-        viewGroup(row.int32("ViewGroupID")),
-        commandSet(row.int32("CommandSetID")) {}
-};
-
 DvrPanel::DvrPanel(Module1& module, TabControl& tabs, int page)
-    : fraDVRAction("fraDVRAction", {180, 1080, 9600, 5550}, "Trigger Alarm on DVR"),
+    : ActionPanel(module),
+      fraDVRAction("fraDVRAction", {180, 1080, 9600, 5550}, "Trigger Alarm on DVR"),
       lblDVRUnit("lblDVRUnit", {240, 465, 3300, 255}, "DVR:"),
       cmbDVRUnit("cmbDVRUnit", {3600, 420, 4500, 330}),
       lblDVRCamera("lblDVRCamera", {240, 945, 3300, 255}, "Camera:"),
@@ -64,7 +45,16 @@ DvrPanel::DvrPanel(Module1& module, TabControl& tabs, int page)
       cmbDVRViewGroups("cmbDVRViewGroups", {3600, 3180, 4500, 330}),
       lblCommandSet("lblCommandSet", {240, 3705, 3300, 255}, "Execute command set:"),
       cmbCommandSet("cmbCommandSet", {3600, 3660, 4500, 330}),
-      module_(module) {
+      // The recorder reloads the lists of cameras and command sets, the camera the presets, the
+      // standard the rates.
+      fields_{{1, "ID_DVR_Config", choice(cmbDVRUnit, "DVR")},
+              {2, "CameraIndex", choice(cmbDVRCamera, "Camera")},
+              {8, "CommandSetID", choice(cmbCommandSet, "Execute command set")},
+              {5, "RecordStandard", recordStandard()},
+              {3, "RecordRate", recordRate()},
+              {4, "AlarmDuration", wholeNumber(txtDVRAlarmDuration)},
+              {6, "ptzPresetID", choice(cmbDVRCameraPresets, "Preset", Needed::Never), "PresetID"},
+              {7, "ViewGroupID", choice(cmbDVRViewGroups, "View Group")}} {
   for (Control* control : controls()) control->setContainer(fraDVRAction);
   fraDVRAction.setContainer(tabs, page);
   fraDVRAction.setVisible(false);
@@ -84,7 +74,31 @@ std::vector<Control*> DvrPanel::controls() {
           &lblDVRViewGroups,    &cmbDVRViewGroups,    &lblCommandSet,       &cmbCommandSet};
 }
 
-bool DvrPanel::LoadDVRAction(std::int32_t actionId) {
+// Standards that are not known show a known one.
+FieldControl DvrPanel::recordStandard() {
+  FieldControl control = choice(cmbRecordStandard, "Record standard");
+  control.show = [this](const Value& stored) {
+    SelectComboItemByData(cmbRecordStandard, knownStandard(toInt32(stored)));
+  };
+  return control;
+}
+
+// The rate of the selected row, in the standard that is selected.
+FieldControl DvrPanel::recordRate() {
+  return {[](const RecordSet& row, const char* column) -> Value { return row.real(column); },
+          [this](const Value& stored) {
+            auto standard = narrowInt16(cmbRecordStandard.selectedData());
+            cmbDVRRecordRate.setListIndex(rates_.FindRecordRateIndex(standard, toReal(stored)));
+          },
+          [](const Value&) { return true; },
+          [this]() -> Value {
+            requiredData(cmbDVRRecordRate, "Record Rate");
+            return rates_.GetRecordRate(knownStandard(cmbRecordStandard.selectedData()),
+                                        narrowInt16(cmbDVRRecordRate.listIndex()));
+          }};
+}
+
+bool DvrPanel::load(std::int32_t actionId) {
   bool whole = true;
   const bool read = guarded(module_, "frmTriggerAction.LoadDVRAction", [&] {
     const HourglassPointer hourglass(module_.screen());
@@ -94,20 +108,28 @@ bool DvrPanel::LoadDVRAction(std::int32_t actionId) {
         "select * from DVR_TriggerActions (NOLOCK) where DVRActionID = " +
         std::to_string(actionId));
     if (!rows.next()) return showNew();
-    const StoredAction stored(rows);
-    rows.close();
-    showStored(stored);
-    whole = showsWhole(stored);
+    whole = showStored(fields_, rows);
   });
   return read && whole;
 }
 
-bool DvrPanel::showsWhole(const StoredAction& stored) const {
-  return standsFor(cmbDVRUnit, stored.recorder, read_.units) &&
-         standsFor(cmbDVRCamera, stored.camera, read_.cameras) &&
-         standsFor(cmbDVRCameraPresets, stored.preset, read_.presets, true) &&
-         standsFor(cmbDVRViewGroups, stored.viewGroup, read_.viewGroups) &&
-         standsFor(cmbCommandSet, stored.commandSet, read_.commandSets);
+bool DvrPanel::save(SaveSteps& steps) {
+  return guardedOr(module_, "frmTriggerAction.SaveDVRTriggerAction", false, [&] {
+    if (cmbDVRUnit.listIndex() < 0) {
+      module_.inform("Cannot save trigger. There are no DVR units defined for this trigger");
+      return false;
+    }
+    Arguments values = readValues(fields_);
+    if (parseInt32(txtDVRAlarmDuration.text()) == 0 && vendorType_ != vendorWithoutDuration) {
+      module_.inform("Required field missing. Must specify Alarm duration.");
+      return false;
+    }
+    if (!steps.ValidateTriggerLocation()) return false;
+    DvrSave save(module_, steps, std::move(values));
+    if (!steps.state().addMode()) return save.update();
+    save.insert();
+    return true;
+  });
 }
 
 void DvrPanel::showNew() {
@@ -116,20 +138,8 @@ void DvrPanel::showNew() {
   txtDVRAlarmDuration.setText(usualDuration);
 }
 
-void DvrPanel::showStored(const StoredAction& stored) {
-  SelectComboItemByData(cmbDVRUnit, stored.recorder);
-  SelectComboItemByData(cmbDVRCamera, stored.camera);
-  SelectComboItemByData(cmbRecordStandard, stored.standard);
-  std::int16_t standard = stored.standard;
-  cmbDVRRecordRate.setListIndex(rates_.FindRecordRateIndex(standard, stored.rate));
-  txtDVRAlarmDuration.setText(stored.duration);
-  SelectComboItemByData(cmbDVRCameraPresets, stored.preset);
-  SelectComboItemByData(cmbDVRViewGroups, stored.viewGroup);
-  SelectComboItemByData(cmbCommandSet, stored.commandSet);
-}
-
-void DvrPanel::LoadDVRUnitCombo(ComboBox& combo) {
-  read_.units = guarded(module_, "frmTriggerAction.LoadDVRUnitCombo", [&] {
+void DvrPanel::LoadDVRUnitCombo(FieldCombo& combo) {
+  combo.listRead = guarded(module_, "frmTriggerAction.LoadDVRUnitCombo", [&] {
     {
       const FlagWhile loading(m_bLoadingDVRUnits);
       RecordSet rows = module_.DBConnection()->open("select ID, DVRName from DVR_Config");
@@ -150,11 +160,11 @@ void DvrPanel::cmbDVRUnit_Click() {
   });
 }
 
-void DvrPanel::LoadDVRCameraCombo(ComboBox& combo, std::int32_t recorderId) {
-  read_.cameras = guarded(module_, "frmTriggerAction.LoadDVRCameraCombo", [&] {
+void DvrPanel::LoadDVRCameraCombo(FieldCombo& combo, std::int32_t recorderId) {
+  combo.listRead = guarded(module_, "frmTriggerAction.LoadDVRCameraCombo", [&] {
     combo.clear();
     cmbDVRCameraPresets.clear();
-    read_.presets = true;
+    cmbDVRCameraPresets.listRead = true;
     RecordSet rows = module_.DBConnection()->open(
         "select CameraIndex, CameraName from DVR_Cameras where ID_DVR_Config = " +
         std::to_string(recorderId) + " order by CameraIndex");
@@ -171,9 +181,9 @@ void DvrPanel::cmbDVRCamera_Click() {
   });
 }
 
-void DvrPanel::LoadDVRCameraPresets(std::int32_t recorderId, ComboBox& combo,
+void DvrPanel::LoadDVRCameraPresets(std::int32_t recorderId, FieldCombo& combo,
                                     std::int32_t cameraIndex) {
-  read_.presets = guarded(module_, "frmTriggerAction.LoadDVRCameraPresets", [&] {
+  combo.listRead = guarded(module_, "frmTriggerAction.LoadDVRCameraPresets", [&] {
     combo.clear();
     combo.addItem(module_.GRS(noPresetText), 0);
     RecordSet rows = module_.DBConnection()->open(
@@ -199,8 +209,8 @@ void DvrPanel::ConfigureFormByVendor(std::int32_t recorderId) {
   });
 }
 
-void DvrPanel::LoadCommandSetCombo(ComboBox& combo) {
-  read_.commandSets = guarded(module_, "frmTriggerAction.LoadCommandSetCombo", [&] {
+void DvrPanel::LoadCommandSetCombo(FieldCombo& combo) {
+  combo.listRead = guarded(module_, "frmTriggerAction.LoadCommandSetCombo", [&] {
     combo.clear();
     combo.addItem("<None>", 0);
     const std::int32_t operatorId = module_.NTConnection()->OperatorID();
@@ -213,8 +223,8 @@ void DvrPanel::LoadCommandSetCombo(ComboBox& combo) {
   });
 }
 
-void DvrPanel::LoadDVRVideoExplorerGroups(ComboBox& combo) {
-  read_.viewGroups = guarded(module_, "frmTriggerAction.LoadDVRVideoExplorerGroups", [&] {
+void DvrPanel::LoadDVRVideoExplorerGroups(FieldCombo& combo) {
+  combo.listRead = guarded(module_, "frmTriggerAction.LoadDVRVideoExplorerGroups", [&] {
     combo.clear();
     combo.addItem(module_.GRS(noViewGroupText), 0);
     RecordSet rows = module_.DBConnection()->open(

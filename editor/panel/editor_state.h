@@ -1,4 +1,4 @@
-// What the panels of one editor share: its mode and the IDs it works on.
+// What the parts of one editor share: its mode and the IDs it works on.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "editor/switcher_settings.h"
+#include "editor/cctv/switcher_settings.h"
 
 namespace pelorin {
 
