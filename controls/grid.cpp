@@ -65,14 +65,8 @@ void Grid::setCell(int row, int column, const std::string& text) {
   notify(row < fixedRows_ ? Aspect::Columns : Aspect::Item, row);
 }
 
-void Grid::addItem(std::string_view tabbedText) {
-  std::vector<std::string> cells(widths_.size());
-  for (std::string& cell : cells) {
-    const std::size_t tab = tabbedText.find('\t');
-    cell = tabbedText.substr(0, tab);
-    if (tab == std::string_view::npos) break;
-    tabbedText.remove_prefix(tab + 1);
-  }
+void Grid::addRow(std::vector<std::string> cells) {
+  cells.resize(widths_.size());
   cells_.push_back(std::move(cells));
   notify(Aspect::Items);
 }

@@ -5,7 +5,6 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -33,9 +32,8 @@ class Grid : public Control {
 
   const std::string& cell(int row, int column) const;
   void setCell(int row, int column, const std::string& text);
-  // One row as a text with TAB between its cells; further cells are dropped, missing ones are
-  // empty.
-  void addItem(std::string_view tabbedText);
+  // Further cells are dropped, missing ones are empty.
+  void addRow(std::vector<std::string> cells);
   void removeItem(int row);
 
   // The current row; 0 or less when no data row is current.

@@ -5,7 +5,6 @@
 #include "common/guard.h"
 #include "controls/text_key.h"
 #include "location/hardware_tree.h"
-#include "location/layout.h"
 #include "location/location_text.h"
 #include "location/node_images.h"
 #include "location/picture_strip.h"
@@ -18,10 +17,6 @@ constexpr Size designClient{5145, 5820};
 constexpr Size smallestWindow{4000, 3000};
 constexpr std::int16_t singleMode = 1;
 constexpr std::int16_t multiMode = 2;
-constexpr int okButton = 0;
-constexpr int closeButton = 1;
-constexpr int helpButton = 2;
-constexpr const char* noLocation = "<None>";
 constexpr std::int16_t helpTopic = 178;
 constexpr std::int16_t formNumber = 85;
 
@@ -30,23 +25,10 @@ bool movesOn(int keyCode) {
   return keyCode >= key_code::pageUp && keyCode <= key_code::down;
 }
 
-std::string buttonName(int index) {
-  return "cmdMain(" + std::to_string(index) + ")";
-}
-
 }  // namespace
 
 FLocation::FLocation(Module1& module)
     : Form("FLocation", designCaption, designClient),
-      Label1("Label1", designLayout().label1, "Double-click to add location to list"),
-      lbllocationLabel("lbllocationLabel", designLayout().locationLabel, "Location:"),
-      lblLocation("lblLocation", designLayout().location, noLocation),
-      lblCaption("lblCaption", designLayout().captionLabel, "Caption:"),
-      txtCaption("txtCaption", designLayout().caption),
-      tvTree("tvTree", designLayout().tree),
-      cmdMain{Button{buttonName(okButton), designLayout().ok, "OK"},
-              Button{buttonName(closeButton), designLayout().close, "Close"},
-              Button{buttonName(helpButton), designLayout().help, "&Help"}},
       module_(module),
       Localizer1(*this, module.environment(), {lblCaption, txtCaption, Label1}),
       MhStretch1(designClient) {
@@ -55,8 +37,6 @@ FLocation::FLocation(Module1& module)
   setDefaultButton(&cmdMain[okButton]);
   setCancelButton(&cmdMain[closeButton]);
   setCloseIsCancel(false);
-  addControls({&lbllocationLabel, &lblLocation, &lblCaption, &txtCaption, &Label1, &tvTree,
-               &cmdMain[okButton], &cmdMain[closeButton], &cmdMain[helpButton]});
   connectEvents();
 }
 
@@ -164,19 +144,6 @@ void FLocation::Form_Resize() {
     MhStretch1.setExtents(client());
     placeControls();
   });
-}
-
-void FLocation::placeControls() {
-  const LocationLayout layout = layOut(MhStretch1);
-  Label1.setPlace(layout.label1);
-  lbllocationLabel.setPlace(layout.locationLabel);
-  lblLocation.setPlace(layout.location);
-  lblCaption.setPlace(layout.captionLabel);
-  txtCaption.setPlace(layout.caption);
-  tvTree.setPlace(layout.tree);
-  cmdMain[okButton].setPlace(layout.ok);
-  cmdMain[closeButton].setPlace(layout.close);
-  cmdMain[helpButton].setPlace(layout.help);
 }
 
 void FLocation::Form_Unload() {

@@ -10,6 +10,7 @@
 
 #include "common/form_links.h"
 #include "common/module1.h"
+#include "controls/simple_controls.h"
 #include "controls/tree_view.h"
 #include "location/localizer.h"
 #include "location/mh_stretch.h"
@@ -30,13 +31,16 @@ class FLocation : public Form {
   // How many locations were added in multi mode since the form was opened.
   std::int16_t addedCount() const noexcept { return m_AddedCount; }
 
-  Label Label1;
-  Label lbllocationLabel;
-  Label lblLocation;
-  Label lblCaption;
-  TextBox txtCaption;
-  TreeView tvTree;
-  std::array<Button, 3> cmdMain;  // OK, Cancel or Close, Help
+  Label lbllocationLabel{*this, "lbllocationLabel", {90, 585, 735, 195}, "Location:"};
+  Label lblLocation{*this, "lblLocation", {1080, 585, 3435, 195}, noLocation};
+  Label lblCaption{*this, "lblCaption", {90, 195, 960, 195}, "Caption:"};
+  TextBox txtCaption{*this, "txtCaption", {1080, 135, 3435, 315}};
+  Label Label1{*this, "Label1", {90, 135, 4380, 420}, "Double-click to add location to list"};
+  TreeView tvTree{*this, "tvTree", {90, 810, 4965, 4335}};
+  std::array<Button, 3> cmdMain{
+      Button{*this, "cmdMain(0)", {2925, 5310, 1005, 375}, "OK"},
+      Button{*this, "cmdMain(1)", {4050, 5310, 1005, 375}, "Close"},  // or Cancel
+      Button{*this, "cmdMain(2)", {90, 5310, 1005, 375}, "&Help"}};
 
   void Form_Load() override;
   void Form_Activate() override;
@@ -46,6 +50,11 @@ class FLocation : public Form {
 
  private:
   static constexpr const char* designCaption = "Select Locations";
+  static constexpr const char* noLocation = "<None>";
+  // Of cmdMain.
+  static constexpr int okButton = 0;
+  static constexpr int closeButton = 1;
+  static constexpr int helpButton = 2;
 
   void connectEvents();
   void loadStep(const std::function<void()>& work);

@@ -1,7 +1,9 @@
 // Keeps widths in proportion to the client area.
 #pragma once
 
-#include "controls/form.h"
+#include <cstdint>
+
+#include "controls/place.h"
 
 namespace pelorin {
 
@@ -19,7 +21,8 @@ class MhStretch {
   bool designMode() const noexcept { return designMode_; }
 
   int width(int designWidth) const noexcept {
-    return designMode_ ? designWidth : designWidth * extents_.width / design_.width;
+    if (designMode_) return designWidth;
+    return static_cast<int>(std::int64_t{designWidth} * extents_.width / design_.width);
   }
 
  private:

@@ -1,6 +1,5 @@
 #include "summary/frm_ta_summary.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "catalog/trigger_store.h"
@@ -13,9 +12,8 @@ namespace {
 
 constexpr Size designClient{11880, 6720};
 constexpr Size smallestWindow{7860, 3840};
-constexpr int gap = 120;
-constexpr int buttonWidth = 1335;
-constexpr int buttonHeight = 405;
+// The buttons stand apart down to this client area.
+constexpr Size smallestClient{7395, 1620};
 
 constexpr int add = 0;
 constexpr int edit = 1;
@@ -23,51 +21,18 @@ constexpr int edit = 1;
 constexpr std::int16_t helpTopic = 217;
 constexpr std::int16_t auditTriggerDeleted = 1186;
 
-struct Column {
-  const char* header;
-  int width;
-};
-constexpr Column columns[summary_column::count] = {
-    {"Trigger", 3100}, {"Location", 2500}, {"Action", 1800},      {"Type", 800},
-    {"Device", 3000},  {"TriggerID", 0},   {"TriggerEventID", 0},
-};
-
 }  // namespace
 
 frmTASummary::frmTASummary(Module1& module, EventCatalogue& catalogue, ShowEditor showEditor)
     : Form("frmTASummary", "Pelorin", designClient),
       module_(module),
       catalogue_(catalogue),
-      showEditor_(std::move(showEditor)),
-      MSFlexGrid1("MSFlexGrid1", {}, summary_column::count),
-      cmdAdd_("cmdAddEdit(0)", {}, "&Add..."),
-      cmdEdit_("cmdAddEdit(1)", {}, "&Edit..."),
-      cmdDelete("cmdDelete", {}, "&Delete"),
-      cmdHelp("cmdHelp", {}, "&Help"),
-      cmdClose("cmdClose", {}, "Close") {
-  addControls({&MSFlexGrid1, &cmdAdd_, &cmdEdit_, &cmdDelete, &cmdHelp, &cmdClose});
-  setResizable(smallestWindow);
+      showEditor_(std::move(showEditor)) {
+  setResizable(smallestWindow, smallestClient);
   setDefaultButton(&cmdEdit_);
   setCancelButton(&cmdClose);
   EnableEditButtons(false);
-  layOut();
   connectEvents();
-}
-
-// The grid takes the space; what changes the list stands left below it, the rest right.
-void frmTASummary::layOut() {
-  const int width = std::max(client().width, 5 * buttonWidth + 6 * gap);
-  const int height = std::max(client().height, 4 * buttonHeight);
-  const int top = height - gap - buttonHeight;
-  const auto place = [&](Button& button, int left) {
-    button.setPlace({left, top, buttonWidth, buttonHeight});
-  };
-  MSFlexGrid1.setPlace({gap, gap, width - 2 * gap, top - 2 * gap});
-  place(cmdAdd_, gap);
-  place(cmdEdit_, 2 * gap + buttonWidth);
-  place(cmdDelete, 3 * gap + 2 * buttonWidth);
-  place(cmdHelp, width - 2 * (gap + buttonWidth));
-  place(cmdClose, width - gap - buttonWidth);
 }
 
 void frmTASummary::connectEvents() {
@@ -88,10 +53,6 @@ void frmTASummary::Form_Load() {
     LoadSummaryData(MSFlexGrid1);
     if (isDataRow(MSFlexGrid1, 1)) MSFlexGrid1.setRow(1);
   });
-}
-
-void frmTASummary::Form_Resize() {
-  layOut();
 }
 
 // Enter in the grid edits as the default button does, but the focus stays, so that the arrow keys
@@ -131,9 +92,11 @@ void frmTASummary::ReloadSummary() {
 
 void frmTASummary::InitSummaryGridHeader(Grid& grid) {
   guarded(module_, "frmTASummary.InitSummaryGridHeader", [&grid] {
-    for (int column = 0; column < summary_column::count; ++column) {
-      grid.setCell(0, column, columns[column].header);
-      grid.setColumnWidth(column, columns[column].width);
+    int index = 0;
+    for (const SummaryColumn& column : summaryColumns) {
+      grid.setCell(0, index, column.header);
+      grid.setColumnWidth(index, column.width);
+      ++index;
     }
     grid.setRows(1);
   });
@@ -163,17 +126,7 @@ void frmTASummary::LoadCCTVSummaryData(Grid& grid, LoadTexts& texts) {
         " inner join CCTV_Switchers on CCTV_Switchers.SwitcherId = CCTV_TriggerAction.SwitcherId "
         "order by t_Address, T_EventID");
     rows.drain();
-    while (loading() && rows.next()) {
-      SummaryRow row;
-      row.eventId = rows.int32("T_EventID");
-      row.trigger = texts.trigger(row.eventId);
-      row.location = rows.text("T_Address");
-      row.action = texts.cctvAction(rows.int16("A_type"));
-      row.type = "CCTV";
-      row.device = rows.text("SwitcherName");
-      row.triggerId = rows.int32("TA_ID");
-      addRow(grid, row);
-    }
+    while (loading() && rows.next()) addRow(grid, cellsOf(CctvTrigger{rows, texts}));
   });
 }
 
@@ -182,23 +135,17 @@ void frmTASummary::LoadDeviceSummaryData(Grid& grid, LoadTexts& texts) {
   RecordSet rows = module_.DBConnection()->open("exec TA_FetchSummary");
   rows.drain();
   while (loading() && rows.next()) {
-    SummaryRow row;
-    row.type = rows.text("Classname");
-    if (row.type == "DVR / NVR") {
-      row.action = "Trigger Alarm";
-      row.device = GetDVRActionDeviceName(rows.int32("ActionID"));
+    DeviceTrigger trigger{rows, texts, rows.text("Classname"), {}};
+    if (trigger.type == "DVR / NVR") {
+      trigger.recorder = GetDVRActionDeviceName(rows.int32("ActionID"));
     }
-    row.eventId = rows.int32("TriggerEventID");
-    row.trigger = texts.trigger(row.eventId);
-    row.location = rows.text("TriggerAddress");
-    row.triggerId = rows.int32("TriggerID");
-    addRow(grid, row);
+    addRow(grid, cellsOf(trigger));
   }
 }
 
 // A report shown on the way lets the host run; it may have closed the window meanwhile.
-void frmTASummary::addRow(Grid& grid, const SummaryRow& row) {
-  if (isOpen()) addSummaryRow(grid, row);
+void frmTASummary::addRow(Grid& grid, const SummaryCells& cells) {
+  if (isOpen()) addSummaryRow(grid, cells);
 }
 
 void frmTASummary::RemoveAllRowsFromGrid(Grid& grid) {

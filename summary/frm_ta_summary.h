@@ -21,11 +21,9 @@ class frmTASummary : public Form {
   void ReloadSummary();
 
   void Form_Load() override;
-  void Form_Resize() override;
   bool Form_KeyDown(int keyCode) override;
 
  private:
-  void layOut();
   void connectEvents();
   bool showInnermost();
   bool loading() const;
@@ -34,7 +32,7 @@ class frmTASummary : public Form {
   void LoadSummaryData(Grid& grid);
   void LoadCCTVSummaryData(Grid& grid, LoadTexts& texts);
   void LoadDeviceSummaryData(Grid& grid, LoadTexts& texts);
-  void addRow(Grid& grid, const SummaryRow& row);
+  void addRow(Grid& grid, const SummaryCells& cells);
   void RemoveAllRowsFromGrid(Grid& grid);
   std::string GetDVRActionDeviceName(std::int32_t actionId);
   void EnableEditButtons(bool dataRowsExist);
@@ -49,12 +47,16 @@ class frmTASummary : public Form {
   EventCatalogue& catalogue_;
   ShowEditor showEditor_;
 
-  Grid MSFlexGrid1;
-  Button cmdAdd_;
-  Button cmdEdit_;
-  Button cmdDelete;
-  Button cmdHelp;
-  Button cmdClose;
+  // The grid takes the space; what changes the list stands left below it, the rest right.
+  static constexpr Anchor everySide = Anchor::Left | Anchor::Top | Anchor::Right | Anchor::Bottom;
+  static constexpr Anchor bottomLeft = Anchor::Bottom | Anchor::Left;
+  static constexpr Anchor bottomRight = Anchor::Bottom | Anchor::Right;
+  Grid MSFlexGrid1{*this, "MSFlexGrid1", {120, 120, 11640, 5955, everySide}, summary_column::count};
+  Button cmdAdd_{*this, "cmdAddEdit(0)", {120, 6195, 1335, 405, bottomLeft}, "&Add..."};
+  Button cmdEdit_{*this, "cmdAddEdit(1)", {1575, 6195, 1335, 405, bottomLeft}, "&Edit..."};
+  Button cmdDelete{*this, "cmdDelete", {3030, 6195, 1335, 405, bottomLeft}, "&Delete"};
+  Button cmdHelp{*this, "cmdHelp", {8970, 6195, 1335, 405, bottomRight}, "&Help"};
+  Button cmdClose{*this, "cmdClose", {10425, 6195, 1335, 405, bottomRight}, "Close"};
 };
 
 }  // namespace pelorin

@@ -1,6 +1,9 @@
 #include "summary/summary_grid.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
 
 #include "common/value.h"
 
@@ -23,10 +26,11 @@ void resetToHeader(Grid& grid) {
 
 }  // namespace
 
-void addSummaryRow(Grid& grid, const SummaryRow& row) {
-  grid.addItem(inOneLine(row.trigger) + '\t' + inOneLine(row.location) + '\t' +
-               inOneLine(row.action) + '\t' + inOneLine(row.type) + '\t' + inOneLine(row.device) +
-               '\t' + numberText(row.triggerId) + '\t' + numberText(row.eventId));
+void addSummaryRow(Grid& grid, const SummaryCells& cells) {
+  std::vector<std::string> texts;
+  texts.reserve(cells.size());
+  std::ranges::transform(cells, std::back_inserter(texts), inOneLine);
+  grid.addRow(std::move(texts));
 }
 
 bool isDataRow(const Grid& grid, int row) {

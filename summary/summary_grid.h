@@ -1,35 +1,14 @@
-// The rows of the summary's grid: seven cells each, the last two hidden and carrying the row's key.
+// The rows of the summary's grid.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 
 #include "controls/grid.h"
+#include "summary/summary_columns.h"
 
 namespace pelorin {
-
-namespace summary_column {
-inline constexpr int trigger = 0;
-inline constexpr int location = 1;
-inline constexpr int action = 2;
-inline constexpr int type = 3;
-inline constexpr int device = 4;
-inline constexpr int triggerId = 5;
-inline constexpr int eventId = 6;
-inline constexpr int count = 7;
-}  // namespace summary_column
-
-struct SummaryRow {
-  std::string trigger;
-  std::string location;
-  std::string action;
-  std::string type;
-  std::string device;
-  std::int32_t triggerId = 0;
-  std::int32_t eventId = 0;
-};
 
 // Which trigger a row shows: its ID is unique within its type.
 struct SummaryKey {
@@ -38,9 +17,8 @@ struct SummaryKey {
   bool operator==(const SummaryKey&) const = default;
 };
 
-// Adds the row at the end. A TAB or line break inside a text becomes a blank: it would shift the
-// cells behind it.
-void addSummaryRow(Grid& grid, const SummaryRow& row);
+// Adds the row at the end. A TAB or line break inside a text becomes a blank: a cell is one line.
+void addSummaryRow(Grid& grid, const SummaryCells& cells);
 
 // Whether the row is one that can be edited and deleted.
 bool isDataRow(const Grid& grid, int row);

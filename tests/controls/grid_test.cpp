@@ -13,7 +13,7 @@ class GridOfThree : public ::testing::Test {
  protected:
   void SetUp() override {
     grid.setRows(1);
-    for (const char* row : {"a\t1", "b\t2", "c\t3"}) grid.addItem(row);
+    for (const char* row : {"a1", "b2", "c3"}) grid.addRow({{row[0]}, {row[1]}});
     grid.onDoubleClick = [this] { ++doubleClicks; };
   }
 
@@ -30,13 +30,13 @@ TEST(Grid, StartsWithAHeaderAndOneEmptyRow) {
   EXPECT_EQ(grid.columns(), 7);
 }
 
-TEST_F(GridOfThree, SplitsARowAtItsTabs) {
+TEST_F(GridOfThree, ARowHasACellForEachColumn) {
   EXPECT_EQ(grid.rows(), 4);
   EXPECT_EQ(grid.cell(2, 0), "b");
   EXPECT_EQ(grid.cell(2, 1), "2");
-  grid.addItem("only");
+  grid.addRow({"only"});
   EXPECT_EQ(grid.cell(4, 1), "");
-  grid.addItem("x\ty\tdropped");
+  grid.addRow({"x", "y", "dropped"});
   EXPECT_EQ(grid.cell(5, 1), "y");
 }
 
@@ -116,7 +116,7 @@ TEST_F(GridOfThree, TellsItsViewWhatKindOfChangeItWas) {
   EXPECT_TRUE(view.heard(Aspect::Columns, 0));
   grid.setCell(2, 0, "x");
   EXPECT_TRUE(view.heard(Aspect::Item, 2));
-  grid.addItem("y");
+  grid.addRow({"y"});
   EXPECT_TRUE(view.heard(Aspect::Items));
   grid.setRow(1);
   EXPECT_TRUE(view.heard(Aspect::Selection));

@@ -147,7 +147,8 @@ void NamedFaults::openSinglePicker() {
 void NamedFaults::selectTrigger(const std::string& deviceClass, int id) const {
   Grid& grid = on<Grid>("frmTASummary", "MSFlexGrid1");
   for (int row = 1; row < grid.rows(); ++row) {
-    if (grid.cell(row, 3) == deviceClass && grid.cell(row, 5) == std::to_string(id)) {
+    if (grid.cell(row, summary_column::type) == deviceClass &&
+        grid.cell(row, summary_column::triggerId) == std::to_string(id)) {
       return grid.userSelectRow(row);
     }
   }

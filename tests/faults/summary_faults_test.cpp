@@ -53,7 +53,8 @@ class SummaryFaults : public SummaryTest {
   std::vector<std::string> keys() {
     std::vector<std::string> found;
     for (int number = 1; number < grid().rows(); ++number) {
-      found.push_back(grid().cell(number, 3) + " " + grid().cell(number, 5));
+      found.push_back(grid().cell(number, summary_column::type) + " " +
+                      grid().cell(number, summary_column::triggerId));
     }
     return found;
   }

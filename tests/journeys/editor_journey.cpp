@@ -92,7 +92,9 @@ void EditorJourney::press(const std::string& formName, const std::string& button
 void EditorJourney::edit(const std::string& deviceClass, int id) const {
   Grid& grid = on<Grid>("frmTASummary", "MSFlexGrid1");
   for (int row = 1; row < grid.rows(); ++row) {
-    if (grid.cell(row, 3) != deviceClass || grid.cell(row, 5) != std::to_string(id)) continue;
+    if (grid.cell(row, summary_column::type) != deviceClass ||
+        grid.cell(row, summary_column::triggerId) != std::to_string(id))
+      continue;
     grid.userSelectRow(row);
     press("frmTASummary", "cmdAddEdit(1)");
     return;

@@ -74,8 +74,10 @@ TEST_F(SummaryJourney, ListsCctvActionsByAddressAndEventThenTheOthers) {
   EXPECT_THAT(around.screen.boxTexts(), IsEmpty());
   std::vector<std::string> keys;
   for (int number = 1; number < grid().rows(); ++number) {
-    keys.push_back(grid().cell(number, 1) + " " + grid().cell(number, 6) + " " +
-                   grid().cell(number, 3) + " " + grid().cell(number, 5));
+    keys.push_back(grid().cell(number, summary_column::location) + " " +
+                   grid().cell(number, summary_column::eventId) + " " +
+                   grid().cell(number, summary_column::type) + " " +
+                   grid().cell(number, summary_column::triggerId));
   }
   EXPECT_THAT(keys,
               ElementsAre("001.01.001.D01 1 CCTV 1", "001.01.001.D01 2 CCTV 2",
@@ -90,7 +92,9 @@ TEST_F(SummaryJourney, ListsCctvActionsByAddressAndEventThenTheOthers) {
 TEST_F(SummaryJourney, EveryRowSaysWhatHappensWhere) {
   open();
   for (int number = 1; number < grid().rows(); ++number) {
-    EXPECT_THAT(grid().cell(number, 0), testing::MatchesRegex("[0-9]{5} - .+")) << row(number);
+    EXPECT_THAT(grid().cell(number, summary_column::trigger),
+                testing::MatchesRegex("[0-9]{5} - .+"))
+        << row(number);
   }
 }
 
@@ -102,8 +106,8 @@ TEST_F(SummaryJourney, ActionWhoseSwitcherIsGoneIsNotListed) {
 
 TEST_F(SummaryJourney, TriggerWhoseActionIsGoneShowsAnEmptyDevice) {
   open();
-  EXPECT_EQ(grid().cell(rowOfTrigger("DVR / NVR", 6), 4), "");
-  EXPECT_NE(grid().cell(rowOfTrigger("DVR / NVR", 1), 4), "");
+  EXPECT_EQ(grid().cell(rowOfTrigger("DVR / NVR", 6), summary_column::device), "");
+  EXPECT_NE(grid().cell(rowOfTrigger("DVR / NVR", 1), summary_column::device), "");
 }
 
 TEST_F(SummaryJourney, DeletedCctvActionIsGoneFromListAndDatabaseAndAudited) {
@@ -168,8 +172,9 @@ TEST_F(SummaryJourney, EditHandsOverTheIdAndClassOfTheRow) {
   for (int number = 1; number < grid().rows(); ++number) {
     grid().userSelectRow(number);
     form.userPress(button("cmdAddEdit(1)"));
-    const std::string type = grid().cell(number, 3);
-    EXPECT_EQ(std::to_string(requests.back().m_TriggerID), grid().cell(number, 5));
+    const std::string type = grid().cell(number, summary_column::type);
+    EXPECT_EQ(std::to_string(requests.back().m_TriggerID),
+              grid().cell(number, summary_column::triggerId));
     EXPECT_EQ(requests.back().m_ActionDeviceClass, DeviceClassIdFromName(type)) << type;
   }
 }

@@ -1,5 +1,4 @@
-#include "location/layout.h"
-
+// Where the picker's controls stand.
 #include <gtest/gtest.h>
 
 #include "location/f_location.h"
@@ -101,6 +100,12 @@ TEST(MhStretch, WidthsFollowInProportionUnlessInDesignMode) {
   EXPECT_EQ(stretch.width(300), 300);
   stretch.setDesignMode(false);
   EXPECT_EQ(stretch.width(300), 600);
+}
+
+TEST(MhStretch, WidthsFollowTheWidestClientArea) {
+  MhStretch stretch({5145, 5820});
+  stretch.setExtents({1000000, 1000000});
+  EXPECT_EQ(stretch.width(4380), 851311);
 }
 
 }  // namespace

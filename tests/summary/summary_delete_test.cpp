@@ -122,8 +122,8 @@ TEST_F(SummaryDeleteTest, RemovesTheCurrentRowOfATriggerThatIsListedTwice) {
   open();
   deleteRow(2);
   ASSERT_EQ(grid().rows(), 3);
-  EXPECT_EQ(grid().cell(1, 1), "first");
-  EXPECT_EQ(grid().cell(2, 1), "third");
+  EXPECT_EQ(grid().cell(1, summary_column::location), "first");
+  EXPECT_EQ(grid().cell(2, summary_column::location), "third");
 }
 
 TEST_F(SummaryDeleteTest, FindsTheRowAgainThatAReloadMoved) {

@@ -75,8 +75,8 @@ TEST_F(SummaryFailureTest, OfADescriptionLeavesItEmptyAndIsReportedOncePerEvent)
   database.fail(descriptionQuery(42));
   open();
   EXPECT_THAT(boxes(), ElementsAre(report("Module1.GetEventDescription", "statement failed")));
-  EXPECT_EQ(grid().cell(1, 0), "00042 - ");
-  EXPECT_EQ(grid().cell(2, 0), "00042 - ");
+  EXPECT_EQ(grid().cell(1, summary_column::trigger), "00042 - ");
+  EXPECT_EQ(grid().cell(2, summary_column::trigger), "00042 - ");
   EXPECT_EQ(row(3), intercomLine);
 }
 
@@ -94,7 +94,7 @@ TEST_F(SummaryFailureTest, OfTheEventTypesLeavesTheDescriptionsEmpty) {
   open();
   EXPECT_THAT(boxes(), ElementsAre(report("Module1.InitEventTypeInfoArray", "statement failed")));
   EXPECT_THAT(rows(), SizeIs(3));
-  EXPECT_EQ(grid().cell(1, 0), "00042 - ");
+  EXPECT_EQ(grid().cell(1, summary_column::trigger), "00042 - ");
 }
 
 TEST_F(SummaryFailureTest, OfAReloadShowsWhatCameAndTheButtonsFollow) {

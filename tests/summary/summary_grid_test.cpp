@@ -12,18 +12,21 @@ class SummaryGridTest : public testing::Test {
       grid.setCell(0, column, "Header");
     grid.setRows(1);
   }
+  static SummaryCells keyCells(const std::string& type, const std::string& triggerId) {
+    SummaryCells cells;
+    cells[summary_column::type] = type;
+    cells[summary_column::triggerId] = triggerId;
+    return cells;
+  }
   void addRows(int count) {
     for (int i = 1; i <= count; ++i) {
-      SummaryRow row;
-      row.type = "CCTV";
-      row.triggerId = i;
-      addSummaryRow(grid, row);
+      addSummaryRow(grid, keyCells("CCTV", std::to_string(i)));
     }
   }
   void expectHeaderAlone() {
     EXPECT_EQ(grid.rows(), 1);
     EXPECT_EQ(grid.fixedRows(), 1);
-    EXPECT_EQ(grid.cell(0, 0), "Header");
+    EXPECT_EQ(grid.cell(0, summary_column::trigger), "Header");
     EXPECT_LT(grid.row(), 1);
   }
 
@@ -31,11 +34,11 @@ class SummaryGridTest : public testing::Test {
 };
 
 TEST_F(SummaryGridTest, RowCarriesItsKeyInTheHiddenColumns) {
-  addSummaryRow(grid, {"00042 - x", "1.1", "Call", "CCTV", "Matrix", 5, 42});
-  EXPECT_EQ(grid.cell(1, 0), "00042 - x");
-  EXPECT_EQ(grid.cell(1, 4), "Matrix");
-  EXPECT_EQ(grid.cell(1, 5), "5");
-  EXPECT_EQ(grid.cell(1, 6), "42");
+  addSummaryRow(grid, {"00042 - x", "1.1", "Call", "CCTV", "Matrix", "5", "42"});
+  EXPECT_EQ(grid.cell(1, summary_column::trigger), "00042 - x");
+  EXPECT_EQ(grid.cell(1, summary_column::device), "Matrix");
+  EXPECT_EQ(grid.cell(1, summary_column::triggerId), "5");
+  EXPECT_EQ(grid.cell(1, summary_column::eventId), "42");
   EXPECT_EQ(keyOf(grid, 1), (SummaryKey{"CCTV", 5}));
 }
 
@@ -49,7 +52,7 @@ TEST_F(SummaryGridTest, OneOfSeveralRowsIsRemoved) {
   addRows(3);
   removeSummaryRow(grid, 2);
   EXPECT_EQ(grid.rows(), 3);
-  EXPECT_EQ(grid.cell(2, 5), "3");
+  EXPECT_EQ(grid.cell(2, summary_column::triggerId), "3");
 }
 
 TEST_F(SummaryGridTest, AnyNumberOfRowsIsRemoved) {
@@ -65,12 +68,12 @@ TEST_F(SummaryGridTest, RowsCanBeAddedAfterAllWereRemoved) {
   removeAllSummaryRows(grid);
   addRows(2);
   EXPECT_EQ(grid.rows(), 3);
-  EXPECT_EQ(grid.cell(1, 5), "1");
+  EXPECT_EQ(grid.cell(1, summary_column::triggerId), "1");
 }
 
 TEST_F(SummaryGridTest, TriggerIsFoundByTypeAndId) {
   addRows(3);
-  addSummaryRow(grid, {"", "", "", "DVR / NVR", "", 2, 0});
+  addSummaryRow(grid, keyCells("DVR / NVR", "2"));
   EXPECT_EQ(rowOf(grid, {"CCTV", 2}), 2);
   EXPECT_EQ(rowOf(grid, {"DVR / NVR", 2}), 4);
   EXPECT_EQ(rowOf(grid, {"DVR / NVR", 3}), 0);

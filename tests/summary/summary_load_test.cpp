@@ -54,19 +54,19 @@ TEST_F(SummaryLoadTest, HeaderHasItsTextsAndWidths) {
 TEST_F(SummaryLoadTest, Event42ShowsWithFiveDigitsAndItsDescription) {
   answerCctv({cctvRow(5, "1.1", 42, 1, "Matrix")});
   open();
-  EXPECT_EQ(grid().cell(1, 0), "00042 - Door forced");
+  EXPECT_EQ(grid().cell(1, summary_column::trigger), "00042 - Door forced");
 }
 
 TEST_F(SummaryLoadTest, EventWithoutDescriptionKeepsTheSeparator) {
   answerCctv({cctvRow(5, "1.1", 43, 1, "Matrix")});
   open();
-  EXPECT_EQ(grid().cell(1, 0), "00043 - ");
+  EXPECT_EQ(grid().cell(1, summary_column::trigger), "00043 - ");
 }
 
 TEST_F(SummaryLoadTest, UnknownCctvActionShowsNoName) {
   answerCctv({cctvRow(5, "1.1", 42, 4, "Matrix")});
   open();
-  EXPECT_EQ(grid().cell(1, 2), "");
+  EXPECT_EQ(grid().cell(1, summary_column::action), "");
 }
 
 TEST_F(SummaryLoadTest, DvrActionWithoutNameShowsAnEmptyDevice) {
@@ -124,7 +124,7 @@ TEST_F(SummaryLoadTest, AsksAgainInTheNextLoad) {
   form.ReloadSummary();
   EXPECT_THAT(database.statements(), ElementsAre(cctvQuery, descriptionQuery(42), summaryQuery,
                                                  dvrNameQuery(31), descriptionQuery(5001)));
-  EXPECT_EQ(grid().cell(1, 0), "00042 - Door held");
+  EXPECT_EQ(grid().cell(1, summary_column::trigger), "00042 - Door held");
 }
 
 TEST_F(SummaryLoadTest, NeverHasTwoResultsOpenAtOnce) {
@@ -156,7 +156,7 @@ TEST_F(SummaryLoadTest, CustomisedDescriptionIsShownWhenTheHostWantsIt) {
                                          {{std::int64_t{42}, "Our door", "Door forced"}}});
   answerCctv({cctvRow(5, "1.1", 42, 1, "Matrix")});
   open();
-  EXPECT_EQ(grid().cell(1, 0), "00042 - Our door");
+  EXPECT_EQ(grid().cell(1, summary_column::trigger), "00042 - Our door");
 }
 
 TEST_F(SummaryLoadTest, ThirtyThousandRowsAreShown) {
@@ -166,7 +166,7 @@ TEST_F(SummaryLoadTest, ThirtyThousandRowsAreShown) {
   answerCctv(std::move(many));
   open();
   EXPECT_EQ(grid().rows(), count + 1);
-  EXPECT_EQ(grid().cell(count, 0).substr(0, 5), "00049");
+  EXPECT_EQ(grid().cell(count, summary_column::trigger).substr(0, 5), "00049");
 }
 
 }  // namespace

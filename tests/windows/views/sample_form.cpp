@@ -39,7 +39,7 @@ void SampleForm::fillLists() {
   }
   grid.setRows(1);
   for (int i = 1; i <= 40; ++i) {
-    grid.addItem("Trigger " + std::to_string(i) + "\t000" + std::to_string(i) + "\tCCTV\t77");
+    grid.addRow({"Trigger " + std::to_string(i), "000" + std::to_string(i), "CCTV", "77"});
   }
 }
 
