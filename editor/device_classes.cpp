@@ -6,13 +6,8 @@
 
 namespace pelorin {
 
-DeviceClasses::DeviceClasses(Module1& module, TabControl& tabs, int page,
-                             const ActionPanels& panels)
-    : lblActionDeviceClass("lblActionDeviceClass", {180, 585, 1380, 255}, "Device Type:"),
-      cmbActionDeviceClass("cmbActionDeviceClass", {1620, 540, 4500, 330}),
-      module_(module),
-      panels_(panels) {
-  for (Control* control : controls()) control->setContainer(tabs, page);
+DeviceClasses::DeviceClasses(Module1& module, Parent page, const ActionPanels& panels)
+    : page_(page), module_(module), panels_(panels) {
   cmbActionDeviceClass.onClick = [this] { cmbActionDeviceClass_Click(); };
 }
 

@@ -2,24 +2,22 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
 #include "common/module1.h"
 #include "controls/item_lists.h"
 #include "controls/simple_controls.h"
-#include "controls/tab_control.h"
 #include "editor/panel/action_panel.h"
 
 namespace pelorin {
 
 class DeviceClasses {
+  Parent page_;
+
  public:
-  DeviceClasses(Module1& module, TabControl& tabs, int page, const ActionPanels& panels);
+  DeviceClasses(Module1& module, Parent page, const ActionPanels& panels);
 
-  Label lblActionDeviceClass;
-  ComboBox cmbActionDeviceClass;
-
-  std::vector<Control*> controls() { return {&lblActionDeviceClass, &cmbActionDeviceClass}; }
+  Label lblActionDeviceClass{page_, "lblActionDeviceClass", {180, 585, 1380, 255}, "Device Type:"};
+  ComboBox cmbActionDeviceClass{page_, "cmbActionDeviceClass", {1620, 540, 4500, 330}};
 
   // The classes with a panel that are always there, then those that the database lists; selects the
   // first one without showing its panel. False when an error ended it.

@@ -25,33 +25,18 @@ ListItem eventRow(const EventTypeInfo& type, const ListedEvent& event) {
 }  // namespace
 
 EventSelection::EventSelection(Module1& module, EventCatalogue& catalogue, const EditorState& state,
-                               TriggerLocations& locations, TabControl& tabs, int page)
-    : lstEventFilters("lstEventFilters", {180, 2430, 2880, 4200}),
-      lvwEvents("lvwEvents", {3240, 2430, 6540, 3660},
-                {{"Type", 1900}, {"Event No.", 1300}, {"Description", 3000}}, true),
-      cmdSelectAll("cmdSelect(0)", {3240, 6240, 1710, 390}, "&Select All"),
-      cmdDeselectAll("cmdSelect(1)", {5070, 6240, 1710, 390}, "D&eselect All"),
-      fraEditOverlay("fraEditOverlay", {3240, 2430, 6540, 4200}, "Edit Overlay"),
-      lblEvent("lblEvent", {240, 465, 840, 255}, "Event:"),
-      cmbEvents("cmbEvents", {1140, 420, 5160, 330}),
+                               TriggerLocations& locations, Parent page)
+    : page_(page),
       module_(module),
       catalogue_(catalogue),
       state_(state),
       locations_(locations),
       zornEvents_(module) {
-  for (Control* control : controls()) control->setContainer(tabs, page);
-  lblEvent.setContainer(fraEditOverlay);
-  cmbEvents.setContainer(fraEditOverlay);
   fraEditOverlay.setVisible(false);
   enableSelectButtons(lvwEvents);
   lstEventFilters.onClick = [this] { lstEventFilters_Click(); };
   cmdSelectAll.onClick = [this] { cmdSelect_Click(0); };
   cmdDeselectAll.onClick = [this] { cmdSelect_Click(1); };
-}
-
-std::vector<Control*> EventSelection::controls() {
-  return {&lstEventFilters, &lvwEvents, &cmdSelectAll, &cmdDeselectAll,
-          &fraEditOverlay,  &lblEvent,  &cmbEvents};
 }
 
 bool EventSelection::InitTriggerTab(const std::string& locationText, std::int32_t eventId) {

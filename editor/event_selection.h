@@ -11,7 +11,6 @@
 #include "controls/item_lists.h"
 #include "controls/list_view.h"
 #include "controls/simple_controls.h"
-#include "controls/tab_control.h"
 #include "editor/event_rows.h"
 #include "editor/panel/editor_state.h"
 #include "editor/panel/save_steps.h"
@@ -21,19 +20,23 @@
 namespace pelorin {
 
 class EventSelection {
+  Parent page_;
+
  public:
   EventSelection(Module1& module, EventCatalogue& catalogue, const EditorState& state,
-                 TriggerLocations& locations, TabControl& tabs, int page);
+                 TriggerLocations& locations, Parent page);
 
-  ListBox lstEventFilters;
-  ListView lvwEvents;
-  Button cmdSelectAll;    // cmdSelect(0)
-  Button cmdDeselectAll;  // cmdSelect(1)
-  Frame fraEditOverlay;
-  Label lblEvent;
-  ComboBox cmbEvents;
-
-  std::vector<Control*> controls();
+  ListBox lstEventFilters{page_, "lstEventFilters", {180, 2430, 2880, 4200}};
+  ListView lvwEvents{page_,
+                     "lvwEvents",
+                     {3240, 2430, 6540, 3660},
+                     {{"Type", 1900}, {"Event No.", 1300}, {"Description", 3000}},
+                     true};
+  Button cmdSelectAll{page_, "cmdSelect(0)", {3240, 6240, 1710, 390}, "&Select All"};
+  Button cmdDeselectAll{page_, "cmdSelect(1)", {5070, 6240, 1710, 390}, "D&eselect All"};
+  Frame fraEditOverlay{page_, "fraEditOverlay", {3240, 2430, 6540, 4200}, "Edit Overlay"};
+  Label lblEvent{fraEditOverlay, "lblEvent", {240, 465, 840, 255}, "Event:"};
+  ComboBox cmbEvents{fraEditOverlay, "cmbEvents", {1140, 420, 5160, 330}};
 
   // Prepares the trigger tab for the state's mode; in edit mode it shows this location and event,
   // and is false when the event is not selected because something could not be read.

@@ -25,10 +25,10 @@ EditorState stateOf(const EditorRequest& request) {
 }
 
 // Every action panel, in tab order.
-ActionPanels actionPanels(Module1& module, EventCatalogue& catalogue, TabControl& tabs) {
+ActionPanels actionPanels(Module1& module, EventCatalogue& catalogue, Parent page) {
   ActionPanels panels;
-  panels.push_back(std::make_unique<CctvPanel>(module, catalogue, tabs, ActionPage));
-  panels.push_back(std::make_unique<DvrPanel>(module, tabs, ActionPage));
+  panels.push_back(std::make_unique<CctvPanel>(module, catalogue, page));
+  panels.push_back(std::make_unique<DvrPanel>(module, page));
   return panels;
 }
 
@@ -41,25 +41,11 @@ frmTriggerAction::frmTriggerAction(Module1& module, EventCatalogue& catalogue,
       module_(module),
       catalogue_(catalogue),
       state_(stateOf(request)),
-      SSTab1("SSTab1", {120, 120, 9960, 6840}, {"&Trigger", "&Action"}),
-      locations_(module, SSTab1, TriggerPage, *this, std::move(showPicker)),
-      events_(module, catalogue, state_, locations_, SSTab1, TriggerPage),
-      classes_(module, SSTab1, ActionPage, panels_),
-      panels_(actionPanels(module, catalogue, SSTab1)),
-      cmdApply("cmdApply", {4080, 7080, 1410, 390}, "Apply"),
-      cmdOK("cmdOK", {5610, 7080, 1410, 390}, "OK"),
-      cmdCancel("cmdCancel", {7140, 7080, 1410, 390}, "Cancel"),
-      cmdHelp("cmdHelp", {8670, 7080, 1410, 390}, "&Help"),
+      locations_(module, SSTab1.page(TriggerPage), *this, std::move(showPicker)),
+      events_(module, catalogue, state_, locations_, SSTab1.page(TriggerPage)),
+      classes_(module, SSTab1.page(ActionPage), panels_),
+      panels_(actionPanels(module, catalogue, SSTab1.page(ActionPage))),
       saver_(module, state_, {locations_, events_, classes_, panels_}, std::move(reloadSummary)) {
-  addControls({&SSTab1});
-  for (const std::vector<Control*>& part :
-       {locations_.controls(), events_.controls(), classes_.controls()}) {
-    for (Control* control : part) addControls({control});
-  }
-  for (const auto& panel : panels_) {
-    for (Control* control : panel->controls()) addControls({control});
-  }
-  addControls({&cmdApply, &cmdOK, &cmdCancel, &cmdHelp});
   setDefaultButton(&cmdOK);
   setCancelButton(&cmdCancel);
   cmdApply.onClick = [this] { cmdApply_Click(); };

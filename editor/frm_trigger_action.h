@@ -57,15 +57,15 @@ class frmTriggerAction : public Form, public LocationTarget {
   EditorState state_;
   bool saving_ = false;
 
-  TabControl SSTab1;
+  TabControl SSTab1{*this, "SSTab1", {120, 120, 9960, 6840}, {"&Trigger", "&Action"}};
   TriggerLocations locations_;
   EventSelection events_;
   DeviceClasses classes_;
   ActionPanels panels_;
-  Button cmdApply;
-  Button cmdOK;
-  Button cmdCancel;
-  Button cmdHelp;
+  Button cmdApply{*this, "cmdApply", {4080, 7080, 1410, 390}, "Apply"};
+  Button cmdOK{*this, "cmdOK", {5610, 7080, 1410, 390}, "OK"};
+  Button cmdCancel{*this, "cmdCancel", {7140, 7080, 1410, 390}, "Cancel"};
+  Button cmdHelp{*this, "cmdHelp", {8670, 7080, 1410, 390}, "&Help"};
   TriggerActionSaver saver_;
 };
 

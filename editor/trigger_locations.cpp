@@ -6,27 +6,13 @@
 
 namespace pelorin {
 
-TriggerLocations::TriggerLocations(Module1& module, TabControl& tabs, int page,
-                                   LocationTarget& target, ShowPicker showPicker)
-    : lblLocation("lblLocation", {180, 540, 1500, 255}, "Location:"),
-      txtLocation("txtLocation", {180, 825, 8970, 330}),
-      cmdSingleLocation("cmdSingleLocation", {9270, 795, 510, 390}, "..."),
-      lvwLocation("lvwLocation", {180, 825, 8010, 1410}, {{"Location", 7600}}, false),
-      cmdAddLocation("cmdAddLocation", {8370, 825, 1410, 390}, "&Add..."),
-      cmdDeleteLocation("cmdDeleteLocation", {8370, 1305, 1410, 390}, "&Delete"),
-      module_(module),
-      target_(target),
-      showPicker_(std::move(showPicker)) {
-  for (Control* control : controls()) control->setContainer(tabs, page);
+TriggerLocations::TriggerLocations(Module1& module, Parent page, LocationTarget& target,
+                                   ShowPicker showPicker)
+    : page_(page), module_(module), target_(target), showPicker_(std::move(showPicker)) {
   showSingle(false);
   cmdSingleLocation.onClick = [this] { cmdSingleLocation_Click(); };
   cmdAddLocation.onClick = [this] { cmdAddLocation_Click(); };
   cmdDeleteLocation.onClick = [this] { cmdDeleteLocation_Click(); };
-}
-
-std::vector<Control*> TriggerLocations::controls() {
-  return {&lblLocation,    &txtLocation,       &lvwLocation,
-          &cmdAddLocation, &cmdDeleteLocation, &cmdSingleLocation};
 }
 
 void TriggerLocations::showSingle(bool single) {

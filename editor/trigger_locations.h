@@ -8,24 +8,22 @@
 #include "common/module1.h"
 #include "controls/list_view.h"
 #include "controls/simple_controls.h"
-#include "controls/tab_control.h"
 
 namespace pelorin {
 
 class TriggerLocations {
+  Parent page_;
+
  public:
-  // The controls stand on page `page` of `tabs`. The picker writes into `target`.
-  TriggerLocations(Module1& module, TabControl& tabs, int page, LocationTarget& target,
-                   ShowPicker showPicker);
+  // The controls stand on `page`. The picker writes into `target`.
+  TriggerLocations(Module1& module, Parent page, LocationTarget& target, ShowPicker showPicker);
 
-  Label lblLocation;
-  TextBox txtLocation;
-  Button cmdSingleLocation;
-  ListView lvwLocation;
-  Button cmdAddLocation;
-  Button cmdDeleteLocation;
-
-  std::vector<Control*> controls();
+  Label lblLocation{page_, "lblLocation", {180, 540, 1500, 255}, "Location:"};
+  TextBox txtLocation{page_, "txtLocation", {180, 825, 8970, 330}};
+  ListView lvwLocation{page_, "lvwLocation", {180, 825, 8010, 1410}, {{"Location", 7600}}, false};
+  Button cmdAddLocation{page_, "cmdAddLocation", {8370, 825, 1410, 390}, "&Add..."};
+  Button cmdDeleteLocation{page_, "cmdDeleteLocation", {8370, 1305, 1410, 390}, "&Delete"};
+  Button cmdSingleLocation{page_, "cmdSingleLocation", {9270, 795, 510, 390}, "..."};
 
   // One location in txtLocation, or several in lvwLocation.
   void showSingle(bool single);

@@ -10,27 +10,8 @@
 
 namespace pelorin {
 
-CctvPanel::CctvPanel(Module1& module, EventCatalogue& catalogue, TabControl& tabs, int page)
-    : ActionPanel(module),
-      fraCCTVAction("fraCCTVAction", {180, 1080, 9600, 5550}, "CCTV Action"),
-      lblCCTVSwitchers("lblCCTVSwitchers", {240, 465, 1140, 255}, "Switcher:"),
-      cmbCCTVSwitchers("cmbCCTVSwitchers", {1440, 420, 4500, 330}),
-      cmbCCTVHiddenININameCache("cmbCCTVHiddenININameCache", {6300, 420, 1500, 330}),
-      lblCTCVAction("lblCTCVAction", {240, 945, 1140, 255}, "Action:"),
-      cmbCCTVActions("cmbCCTVActions", {1440, 900, 4500, 330}),
-      lblCamera("lblCCTVCamAction(2)", {240, 1425, 1140, 255}, "Camera:"),
-      cmbCCTVCameras("cmbCCTVCameras", {1440, 1380, 4500, 330}),
-      lblPreset("lblCCTVCamAction(1)", {240, 1905, 1140, 255}, "Preset:"),
-      cmbCCTVPresets("cmbCCTVPresets", {1440, 1860, 4500, 330}),
-      lblMonitor("lblCCTVCamAction(0)", {240, 2385, 1140, 255}, "Monitor:"),
-      cmbCCTVMonitors("cmbCCTVMonitors", {1440, 2340, 1500, 330}),
-      chkCCTVDisplayViewer("chkCCTVDisplayViewer", {1440, 2820, 8100, 330},
-                           "Display Viewer associated with monitor"),
-      lblCCTVAlarm("lblCCTVAlarm", {240, 3345, 1140, 255}, "Alarm:"),
-      txtCCTVAlarm("txtCCTVAlarm", {1440, 3300, 1500, 330}),
-      chkCCTVAutoRTNTriggers(
-          "chkCCTVAutoRTNTriggers", {1440, 3780, 8100, 330},
-          "Automatically generate RTN triggers to acknowledge alarms on switcher"),
+CctvPanel::CctvPanel(Module1& module, EventCatalogue& catalogue, Parent page)
+    : ActionPanel(module, page),
       catalogue_(catalogue),
       // The switcher reloads every list below it, the camera the presets.
       fields_{{1, "SwitcherID", choice(cmbCCTVSwitchers, "Switcher")},
@@ -40,22 +21,12 @@ CctvPanel::CctvPanel(Module1& module, EventCatalogue& catalogue, TabControl& tab
               {cctv_argument::action, "A_type", narrow(choice(cmbCCTVActions, "Action"))},
               {10, "SWAlarmIndex", narrow(wholeNumber(txtCCTVAlarm))},
               {11, "OpenViewer", mark(chkCCTVDisplayViewer)}} {
-  for (Control* control : controls()) control->setContainer(fraCCTVAction);
-  fraCCTVAction.setContainer(tabs, page);
   fraCCTVAction.setVisible(false);
-  cmbCCTVHiddenININameCache.setContainer(tabs, page);
   cmbCCTVHiddenININameCache.setText("hidden");
   cmbCCTVHiddenININameCache.setVisible(false);
   cmbCCTVSwitchers.onClick = [this] { cmbCCTVSwitchers_Click(); };
   cmbCCTVCameras.onClick = [this] { cmbCCTVCameras_Click(); };
   cmbCCTVActions.onClick = [this] { cmbCCTVActions_Click(); };
-}
-
-std::vector<Control*> CctvPanel::controls() {
-  return {&fraCCTVAction,  &lblCCTVSwitchers, &cmbCCTVSwitchers,       &lblCTCVAction,
-          &cmbCCTVActions, &lblCamera,        &cmbCCTVCameras,         &lblPreset,
-          &cmbCCTVPresets, &lblMonitor,       &cmbCCTVMonitors,        &chkCCTVDisplayViewer,
-          &lblCCTVAlarm,   &txtCCTVAlarm,     &chkCCTVAutoRTNTriggers, &cmbCCTVHiddenININameCache};
 }
 
 void CctvPanel::prepare() {

@@ -3,10 +3,8 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
 #include "catalog/event_catalogue.h"
-#include "controls/tab_control.h"
 #include "editor/panel/action_panel.h"
 #include "editor/panel/panel_field.h"
 
@@ -14,29 +12,36 @@ namespace pelorin {
 
 class CctvPanel : public ActionPanel {
  public:
-  CctvPanel(Module1& module, EventCatalogue& catalogue, TabControl& tabs, int page);
+  CctvPanel(Module1& module, EventCatalogue& catalogue, Parent page);
 
-  Frame fraCCTVAction;
-  Label lblCCTVSwitchers;
-  FieldCombo cmbCCTVSwitchers;
-  ComboBox cmbCCTVHiddenININameCache;  // row for row parallel to the switchers
-  Label lblCTCVAction;
-  FieldCombo cmbCCTVActions;
-  Label lblCamera;
-  FieldCombo cmbCCTVCameras;
-  Label lblPreset;
-  FieldCombo cmbCCTVPresets;
-  Label lblMonitor;
-  FieldCombo cmbCCTVMonitors;
-  CheckBox chkCCTVDisplayViewer;
-  Label lblCCTVAlarm;
-  TextBox txtCCTVAlarm;
-  CheckBox chkCCTVAutoRTNTriggers;
+  Frame fraCCTVAction{page_, "fraCCTVAction", {180, 1080, 9600, 5550}, "CCTV Action"};
+  Label lblCCTVSwitchers{fraCCTVAction, "lblCCTVSwitchers", {240, 465, 1140, 255}, "Switcher:"};
+  FieldCombo cmbCCTVSwitchers{fraCCTVAction, "cmbCCTVSwitchers", {1440, 420, 4500, 330}};
+  Label lblCTCVAction{fraCCTVAction, "lblCTCVAction", {240, 945, 1140, 255}, "Action:"};
+  FieldCombo cmbCCTVActions{fraCCTVAction, "cmbCCTVActions", {1440, 900, 4500, 330}};
+  Label lblCamera{fraCCTVAction, "lblCCTVCamAction(2)", {240, 1425, 1140, 255}, "Camera:"};
+  FieldCombo cmbCCTVCameras{fraCCTVAction, "cmbCCTVCameras", {1440, 1380, 4500, 330}};
+  Label lblPreset{fraCCTVAction, "lblCCTVCamAction(1)", {240, 1905, 1140, 255}, "Preset:"};
+  FieldCombo cmbCCTVPresets{fraCCTVAction, "cmbCCTVPresets", {1440, 1860, 4500, 330}};
+  Label lblMonitor{fraCCTVAction, "lblCCTVCamAction(0)", {240, 2385, 1140, 255}, "Monitor:"};
+  FieldCombo cmbCCTVMonitors{fraCCTVAction, "cmbCCTVMonitors", {1440, 2340, 1500, 330}};
+  CheckBox chkCCTVDisplayViewer{fraCCTVAction,
+                                "chkCCTVDisplayViewer",
+                                {1440, 2820, 8100, 330},
+                                "Display Viewer associated with monitor"};
+  Label lblCCTVAlarm{fraCCTVAction, "lblCCTVAlarm", {240, 3345, 1140, 255}, "Alarm:"};
+  TextBox txtCCTVAlarm{fraCCTVAction, "txtCCTVAlarm", {1440, 3300, 1500, 330}};
+  CheckBox chkCCTVAutoRTNTriggers{
+      fraCCTVAction,
+      "chkCCTVAutoRTNTriggers",
+      {1440, 3780, 8100, 330},
+      "Automatically generate RTN triggers to acknowledge alarms on switcher"};
+  // Row for row parallel to the switchers.
+  ComboBox cmbCCTVHiddenININameCache{page_, "cmbCCTVHiddenININameCache", {6300, 420, 1500, 330}};
 
   std::int32_t deviceClass() const noexcept override { return device_class::cctv; }
   const char* ownClassName() const noexcept override { return "CCTV"; }
   Frame& frame() noexcept override { return fraCCTVAction; }
-  std::vector<Control*> controls() override;
   // The alarm controls take the places of the camera controls.
   void prepare() override;
   bool readTrigger(std::int32_t triggerId, TriggerData& data) override;

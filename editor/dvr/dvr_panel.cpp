@@ -15,7 +15,6 @@ namespace {
 
 constexpr std::int32_t noPresetText = 2161;
 constexpr std::int32_t noViewGroupText = 3553;
-constexpr const char* usualDuration = "15";
 
 // A text of any length is a number here: more digits than these are beyond every limit anyway.
 double durationOf(std::string_view text) {
@@ -25,26 +24,8 @@ double durationOf(std::string_view text) {
 
 }  // namespace
 
-DvrPanel::DvrPanel(Module1& module, TabControl& tabs, int page)
-    : ActionPanel(module),
-      fraDVRAction("fraDVRAction", {180, 1080, 9600, 5550}, "Trigger Alarm on DVR"),
-      lblDVRUnit("lblDVRUnit", {240, 465, 3300, 255}, "DVR:"),
-      cmbDVRUnit("cmbDVRUnit", {3600, 420, 4500, 330}),
-      lblDVRCamera("lblDVRCamera", {240, 945, 3300, 255}, "Camera:"),
-      cmbDVRCamera("cmbDVRCamera", {3600, 900, 4500, 330}),
-      lblDVRRecordRate("lblDVRRecordRate", {240, 1425, 3300, 255}, "Record Rate:"),
-      cmbDVRRecordRate("cmbDVRRecordRate", {3600, 1380, 1800, 330}),
-      cmbRecordStandard("cmbRecordStandard", {5580, 1380, 1500, 330}),
-      lblDVRAlarmDuration("lblDVRAlarmDuration", {240, 1905, 3300, 255},
-                          "Alarm Duration (5-300 sec):"),
-      txtDVRAlarmDuration("txtDVRAlarmDuration", {3600, 1860, 1800, 330}, usualDuration),
-      lblDVRCameraPresets("lblDVRCameraPresets", {240, 2385, 3300, 255}, "Preset:"),
-      cmbDVRCameraPresets("cmbDVRCameraPresets", {3600, 2340, 4500, 330}),
-      lblDVRViewGroups("lblDVRViewGroups", {240, 2865, 9120, 255},
-                       "Optionally launch the Video Explorer window using this View Group:"),
-      cmbDVRViewGroups("cmbDVRViewGroups", {3600, 3180, 4500, 330}),
-      lblCommandSet("lblCommandSet", {240, 3705, 3300, 255}, "Execute command set:"),
-      cmbCommandSet("cmbCommandSet", {3600, 3660, 4500, 330}),
+DvrPanel::DvrPanel(Module1& module, Parent page)
+    : ActionPanel(module, page),
       // The recorder reloads the lists of cameras and command sets, the camera the presets, the
       // standard the rates.
       fields_{{1, "ID_DVR_Config", choice(cmbDVRUnit, "DVR")},
@@ -55,8 +36,6 @@ DvrPanel::DvrPanel(Module1& module, TabControl& tabs, int page)
               {4, "AlarmDuration", wholeNumber(txtDVRAlarmDuration)},
               {6, "ptzPresetID", choice(cmbDVRCameraPresets, "Preset", Needed::Never), "PresetID"},
               {7, "ViewGroupID", choice(cmbDVRViewGroups, "View Group")}} {
-  for (Control* control : controls()) control->setContainer(fraDVRAction);
-  fraDVRAction.setContainer(tabs, page);
   fraDVRAction.setVisible(false);
   cmbRecordStandard.addItem("NTSC", record_standard::ntsc);
   cmbRecordStandard.addItem("PAL", record_standard::pal);
@@ -65,13 +44,6 @@ DvrPanel::DvrPanel(Module1& module, TabControl& tabs, int page)
   cmbRecordStandard.onClick = [this] { cmbRecordStandard_Click(); };
   txtDVRAlarmDuration.onKeyPress = txtDVRAlarmDuration_KeyPress;
   txtDVRAlarmDuration.onValidate = [this] { txtDVRAlarmDuration_Validate(); };
-}
-
-std::vector<Control*> DvrPanel::controls() {
-  return {&fraDVRAction,        &lblDVRUnit,          &cmbDVRUnit,          &lblDVRCamera,
-          &cmbDVRCamera,        &lblDVRRecordRate,    &cmbDVRRecordRate,    &cmbRecordStandard,
-          &lblDVRAlarmDuration, &txtDVRAlarmDuration, &lblDVRCameraPresets, &cmbDVRCameraPresets,
-          &lblDVRViewGroups,    &cmbDVRViewGroups,    &lblCommandSet,       &cmbCommandSet};
 }
 
 // Standards that are not known show a known one.

@@ -3,9 +3,7 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
-#include "controls/tab_control.h"
 #include "editor/dvr/record_rate_table.h"
 #include "editor/panel/action_panel.h"
 #include "editor/panel/panel_field.h"
@@ -16,29 +14,35 @@ class DvrPanel : public ActionPanel {
  public:
   // Recorders of this vendor take neither an alarm duration nor a camera preset.
   static constexpr std::int16_t vendorWithoutDuration = 4;
+  static constexpr const char* usualDuration = "15";
 
-  DvrPanel(Module1& module, TabControl& tabs, int page);
+  DvrPanel(Module1& module, Parent page);
 
-  Frame fraDVRAction;
-  Label lblDVRUnit;
-  FieldCombo cmbDVRUnit;
-  Label lblDVRCamera;
-  FieldCombo cmbDVRCamera;
-  Label lblDVRRecordRate;
-  FieldCombo cmbDVRRecordRate;
-  FieldCombo cmbRecordStandard;
-  Label lblDVRAlarmDuration;
-  TextBox txtDVRAlarmDuration;
-  Label lblDVRCameraPresets;
-  FieldCombo cmbDVRCameraPresets;
-  Label lblDVRViewGroups;
-  FieldCombo cmbDVRViewGroups;
-  Label lblCommandSet;
-  FieldCombo cmbCommandSet;
+  Frame fraDVRAction{page_, "fraDVRAction", {180, 1080, 9600, 5550}, "Trigger Alarm on DVR"};
+  Label lblDVRUnit{fraDVRAction, "lblDVRUnit", {240, 465, 3300, 255}, "DVR:"};
+  FieldCombo cmbDVRUnit{fraDVRAction, "cmbDVRUnit", {3600, 420, 4500, 330}};
+  Label lblDVRCamera{fraDVRAction, "lblDVRCamera", {240, 945, 3300, 255}, "Camera:"};
+  FieldCombo cmbDVRCamera{fraDVRAction, "cmbDVRCamera", {3600, 900, 4500, 330}};
+  Label lblDVRRecordRate{fraDVRAction, "lblDVRRecordRate", {240, 1425, 3300, 255}, "Record Rate:"};
+  FieldCombo cmbDVRRecordRate{fraDVRAction, "cmbDVRRecordRate", {3600, 1380, 1800, 330}};
+  FieldCombo cmbRecordStandard{fraDVRAction, "cmbRecordStandard", {5580, 1380, 1500, 330}};
+  Label lblDVRAlarmDuration{
+      fraDVRAction, "lblDVRAlarmDuration", {240, 1905, 3300, 255}, "Alarm Duration (5-300 sec):"};
+  TextBox txtDVRAlarmDuration{
+      fraDVRAction, "txtDVRAlarmDuration", {3600, 1860, 1800, 330}, usualDuration};
+  Label lblDVRCameraPresets{fraDVRAction, "lblDVRCameraPresets", {240, 2385, 3300, 255}, "Preset:"};
+  FieldCombo cmbDVRCameraPresets{fraDVRAction, "cmbDVRCameraPresets", {3600, 2340, 4500, 330}};
+  Label lblDVRViewGroups{fraDVRAction,
+                         "lblDVRViewGroups",
+                         {240, 2865, 9120, 255},
+                         "Optionally launch the Video Explorer window using this View Group:"};
+  FieldCombo cmbDVRViewGroups{fraDVRAction, "cmbDVRViewGroups", {3600, 3180, 4500, 330}};
+  Label lblCommandSet{
+      fraDVRAction, "lblCommandSet", {240, 3705, 3300, 255}, "Execute command set:"};
+  FieldCombo cmbCommandSet{fraDVRAction, "cmbCommandSet", {3600, 3660, 4500, 330}};
 
   std::int32_t deviceClass() const noexcept override { return device_class::dvr; }
   Frame& frame() noexcept override { return fraDVRAction; }
-  std::vector<Control*> controls() override;
   void prepare() override { rates_.InitRecordRateTable(); }
   bool load(std::int32_t actionId) override;
   bool save(SaveSteps& steps) override;

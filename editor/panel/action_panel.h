@@ -15,7 +15,8 @@ namespace pelorin {
 
 class ActionPanel {
  public:
-  explicit ActionPanel(Module1& module) noexcept : module_(module) {}
+  // The panel's controls stand on `page`.
+  ActionPanel(Module1& module, Parent page) noexcept : page_(page), module_(module) {}
   ActionPanel(const ActionPanel&) = delete;
   ActionPanel& operator=(const ActionPanel&) = delete;
   virtual ~ActionPanel() = default;
@@ -24,8 +25,6 @@ class ActionPanel {
   // The class is always offered under this name; null: only when the database lists it, as there.
   virtual const char* ownClassName() const noexcept { return nullptr; }
   virtual Frame& frame() noexcept = 0;
-  // In tab order, the frame first.
-  virtual std::vector<Control*> controls() = 0;
 
   // Once, before the first load.
   virtual void prepare() {}
@@ -39,6 +38,7 @@ class ActionPanel {
   virtual bool save(SaveSteps& steps) = 0;
 
  protected:
+  Parent page_;
   Module1& module_;
 };
 

@@ -11,11 +11,11 @@ using ::testing::ElementsAre;
 
 class DeviceClassesTest : public ::testing::Test, protected EditorSite {
  protected:
-  TabControl tabs{"SSTab1", {0, 0, 1000, 1000}, {"&Trigger", "&Action"}};
+  TabControl tabs{noParent, "SSTab1", {0, 0, 1000, 1000}, {"&Trigger", "&Action"}};
   ActionPanels panels;
-  Frame& cctv = add(std::make_unique<CctvPanel>(module, catalogue, tabs, 1));
-  Frame& dvr = add(std::make_unique<DvrPanel>(module, tabs, 1));
-  DeviceClasses classes{module, tabs, 1, panels};
+  Frame& cctv = add(std::make_unique<CctvPanel>(module, catalogue, tabs.page(1)));
+  Frame& dvr = add(std::make_unique<DvrPanel>(module, tabs.page(1)));
+  DeviceClasses classes{module, tabs.page(1), panels};
   ComboBox& combo = classes.cmbActionDeviceClass;
 
   void SetUp() override { tabs.setTab(1); }

@@ -113,10 +113,10 @@ TEST_F(EventSelectionTest, TheMisspeltTypeIsNotFoundByItsFilterSoItGoesWithoutAs
 
 TEST_F(EventSelectionTest, TheFilterPrefixIsTheTextBeforeTheFirstBlank) {
   openEditor();
-  TabControl tabs{"SSTab1", {}, {"&Trigger"}};
+  TabControl tabs{noParent, "SSTab1", {}, {"&Trigger"}};
   EditorState state;
-  TriggerLocations locations{module, tabs, 0, *editor, {}};
-  EventSelection alone{module, catalogue, state, locations, tabs, 0};
+  TriggerLocations locations{module, tabs.page(0), *editor, {}};
+  EventSelection alone{module, catalogue, state, locations, tabs.page(0)};
   alone.lstEventFilters.addItem("Access Granted Events");
   alone.lstEventFilters.addItem("Events");
   EXPECT_EQ(alone.GetFilterListPrefix(0), "Access");

@@ -68,11 +68,11 @@ TEST_F(HourglassTest, ChoosingARecorderOrItsCamera) {
 }
 
 TEST_F(HourglassTest, LoadingAPanelAlone) {
-  TabControl tabs{"SSTab1", {}, {"&Trigger", "&Action"}};
-  CctvPanel cctv{module, catalogue, tabs, 1};
+  TabControl tabs{noParent, "SSTab1", {}, {"&Trigger", "&Action"}};
+  CctvPanel cctv{module, catalogue, tabs.page(1)};
   cctv.load(0);
   expectHourglass();
-  DvrPanel dvr{module, tabs, 1};
+  DvrPanel dvr{module, tabs.page(1)};
   dvr.load(0);
   expectHourglass();
 }

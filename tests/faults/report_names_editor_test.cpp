@@ -57,9 +57,9 @@ const NamedFault formFaults[] = {
      [](NamedFaults& s) { addWhile(s, "fraCCTVAction", Aspect::Visible); }},
     {"frmTriggerAction.cmbActionDeviceClass_Click",
      [](NamedFaults& s) {
-       TabControl tabs("SSTab1", {}, {"&Trigger", "&Action"});
+       TabControl tabs(noParent, "SSTab1", {}, {"&Trigger", "&Action"});
        const ActionPanels none;
-       DeviceClasses(s.component.module(), tabs, 1, none).cmbActionDeviceClass_Click();
+       DeviceClasses(s.component.module(), tabs.page(1), none).cmbActionDeviceClass_Click();
      }},
     {"frmTriggerAction.SaveTriggerAction",
      [](NamedFaults& s) {

@@ -14,8 +14,8 @@ using ::testing::StartsWith;
 
 class CctvPanelTest : public ::testing::Test, protected EditorSite {
  protected:
-  TabControl tabs{"SSTab1", {0, 0, 1000, 1000}, {"&Trigger", "&Action"}};
-  CctvPanel panel{module, catalogue, tabs, 1};
+  TabControl tabs{noParent, "SSTab1", {0, 0, 1000, 1000}, {"&Trigger", "&Action"}};
+  CctvPanel panel{module, catalogue, tabs.page(1)};
 
   void SetUp() override {
     tabs.setTab(1);

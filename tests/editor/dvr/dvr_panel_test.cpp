@@ -12,8 +12,8 @@ using ::testing::StartsWith;
 
 class DvrPanelTest : public ::testing::Test, protected EditorSite {
  protected:
-  TabControl tabs{"SSTab1", {0, 0, 1000, 1000}, {"&Trigger", "&Action"}};
-  DvrPanel panel{module, tabs, 1};
+  TabControl tabs{noParent, "SSTab1", {0, 0, 1000, 1000}, {"&Trigger", "&Action"}};
+  DvrPanel panel{module, tabs.page(1)};
   TextBox& duration = panel.txtDVRAlarmDuration;
 
   void SetUp() override {
@@ -168,7 +168,7 @@ TEST_F(DvrPanelTest, AStoredStandardAboveOneIsNtscAndBelowZeroPal) {
   panel.load(3);
   EXPECT_EQ(panel.cmbRecordStandard.selectedData(), 1);
   EXPECT_EQ(panel.cmbDVRRecordRate.listIndex(), 5);
-  DvrPanel other{module, tabs, 1};
+  DvrPanel other{module, tabs.page(1)};
   other.prepare();
   other.load(4);
   EXPECT_EQ(other.cmbRecordStandard.selectedData(), 0);
