@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/current_error.h"
 #include "catalog/event_text.h"
 #include "catalog/zorn_family.h"
 #include "common/guard.h"

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "common/database.h"
+#include "database/connection.h"
 
 namespace pelorin {
 

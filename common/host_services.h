@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "common/at_line.h"
+#include "base/source_line.h"
 
 namespace pelorin {
 

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/current_error.h"
+#include "base/text_key.h"
 #include "common/guard.h"
-#include "controls/text_key.h"
 
 namespace pelorin {
 

@@ -9,10 +9,10 @@
 #include <string_view>
 #include <utility>
 
-#include "common/database.h"
 #include "common/environment.h"
 #include "common/host_services.h"
 #include "controls/screen.h"
+#include "database/connection.h"
 
 namespace pelorin {
 

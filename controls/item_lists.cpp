@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace pelorin {
 

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace pelorin {
 

@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/text_key.h"
 #include "controls/control.h"
-#include "controls/text_key.h"
 
 namespace pelorin {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "controls/tree_view.h"
 
 namespace pelorin {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "controls/flag_while.h"
+#include "base/flag_while.h"
 
 namespace pelorin {
 

@@ -1,8 +1,8 @@
 #include "editor/device_classes.h"
 
+#include "base/flag_while.h"
 #include "common/combo_helpers.h"
 #include "common/guard.h"
-#include "controls/flag_while.h"
 
 namespace pelorin {
 

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
+#include "base/text_key.h"
 #include "catalog/event_text.h"
-#include "controls/text_key.h"
 
 namespace pelorin {
 

@@ -4,7 +4,7 @@
 #include <unordered_set>
 #include <utility>
 
-#include "common/value.h"
+#include "base/value.h"
 
 namespace pelorin {
 

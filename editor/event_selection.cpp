@@ -3,10 +3,11 @@
 #include <optional>
 #include <utility>
 
+#include "base/current_error.h"
+#include "base/flag_while.h"
 #include "catalog/zorn_family.h"
 #include "common/combo_helpers.h"
 #include "common/guard.h"
-#include "controls/flag_while.h"
 #include "editor/event_query.h"
 
 namespace pelorin {

@@ -3,9 +3,9 @@
 #include <ranges>
 #include <utility>
 
+#include "base/flag_while.h"
 #include "catalog/trigger_store.h"
 #include "common/guard.h"
-#include "controls/flag_while.h"
 #include "editor/cctv/cctv_panel.h"
 #include "editor/dvr/dvr_panel.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "common/guard.h"
+#include "base/current_error.h"
 #include "host/core/options.h"
 #include "host/play/play.h"
 #include "host/window/main_window.h"

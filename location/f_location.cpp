@@ -2,8 +2,9 @@
 
 #include <limits>
 
+#include "base/current_error.h"
+#include "base/text_key.h"
 #include "common/guard.h"
-#include "controls/text_key.h"
 #include "location/hardware_tree.h"
 #include "location/location_text.h"
 #include "location/node_images.h"

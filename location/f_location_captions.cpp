@@ -1,4 +1,5 @@
 // The picker's captions, as the operator edits them.
+#include "base/current_error.h"
 #include "common/guard.h"
 #include "location/f_location.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "common/value.h"
+#include "base/value.h"
 #include "location/node_images.h"
 
 namespace pelorin {

@@ -4,7 +4,7 @@
 #include <array>
 #include <limits>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "location/node_images.h"
 #include "location/upper_case.h"
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "common/guard.h"
+#include "base/current_error.h"
 #include "location/caption_file.h"
 
 namespace pelorin {

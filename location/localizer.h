@@ -14,9 +14,9 @@
 #include <optional>
 #include <string>
 
-#include "common/database.h"
 #include "common/environment.h"
 #include "controls/form.h"
+#include "database/connection.h"
 
 namespace pelorin {
 

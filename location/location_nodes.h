@@ -8,8 +8,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include "base/text_key.h"
 #include "common/guard.h"
-#include "controls/text_key.h"
 #include "controls/tree_view.h"
 
 namespace pelorin {

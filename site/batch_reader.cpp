@@ -6,7 +6,7 @@
 #include <set>
 #include <utility>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "site/embedded_schema.h"
 #include "site/errors.h"
 #include "site/sql_tokens.h"

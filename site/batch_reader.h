@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-#include "common/value.h"
+#include "base/value.h"
 
 namespace pelorin::site {
 

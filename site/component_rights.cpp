@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "site/schema.h"
 #include "site/sql_tokens.h"
 #include "site/statement_call.h"

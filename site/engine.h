@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "common/value.h"
+#include "base/value.h"
 
 struct sqlite3;
 struct sqlite3_stmt;

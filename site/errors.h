@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace pelorin::site {
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "site/errors.h"
 
 namespace pelorin::site {

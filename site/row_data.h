@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "common/value.h"
+#include "base/value.h"
 #include "site/schema.h"
 
 namespace pelorin::site {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "site/embedded_files.h"
 #include "site/errors.h"
 #include "site/text_lines.h"

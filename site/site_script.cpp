@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 #include "site/large_site.h"
 #include "site/server_scripts.h"
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "common/database.h"
+#include "database/connection.h"
 
 namespace pelorin {
 

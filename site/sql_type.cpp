@@ -7,7 +7,7 @@
 #include <limits>
 #include <utility>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "site/errors.h"
 
 namespace pelorin::site {

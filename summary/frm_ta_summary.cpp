@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "base/text_key.h"
 #include "catalog/trigger_store.h"
 #include "common/guard.h"
-#include "controls/text_key.h"
 
 namespace pelorin {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "common/value.h"
+#include "base/value.h"
 
 namespace pelorin {
 

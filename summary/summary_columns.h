@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "common/database.h"
+#include "database/record_set.h"
 #include "summary/load_texts.h"
 
 namespace pelorin {

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "common/value.h"
+#include "base/value.h"
 
 namespace pelorin {
 

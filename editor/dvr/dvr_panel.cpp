@@ -4,9 +4,9 @@
 #include <string_view>
 #include <utility>
 
+#include "base/flag_while.h"
 #include "common/combo_helpers.h"
 #include "common/guard.h"
-#include "controls/flag_while.h"
 #include "editor/dvr/dvr_save.h"
 
 namespace pelorin {

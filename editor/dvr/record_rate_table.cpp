@@ -5,7 +5,7 @@
 #include <iterator>
 #include <string>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace pelorin {
 

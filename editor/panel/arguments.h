@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-#include "common/value.h"
+#include "base/value.h"
 
 namespace pelorin {
 

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "common/database.h"
 #include "controls/item_lists.h"
 #include "controls/simple_controls.h"
+#include "database/connection.h"
 #include "editor/panel/arguments.h"
 
 namespace pelorin {

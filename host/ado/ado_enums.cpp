@@ -1,6 +1,6 @@
 #include "host/ado/ado_enums.h"
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace pelorin::host::ado {
 

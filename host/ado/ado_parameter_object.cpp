@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "host/ado/ado_command_object.h"
 #include "host/ado/ado_enums.h"
 

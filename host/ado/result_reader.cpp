@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "host/ado/ado_enums.h"
 
 namespace pelorin::host {

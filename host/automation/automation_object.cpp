@@ -1,6 +1,6 @@
 #include "host/automation/automation_object.h"
 
-#include "common/guard.h"
+#include "base/current_error.h"
 #include "win32/com/bstr.h"
 
 namespace pelorin::host {

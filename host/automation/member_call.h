@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "common/value.h"
+#include "base/value.h"
 #include "win32/com/com_ptr.h"
 #include "win32/com/variant.h"
 #include "win32/text/windows_api.h"

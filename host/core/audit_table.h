@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "common/database.h"
+#include "database/connection.h"
 #include "site/audit_log.h"
 
 namespace pelorin::host {

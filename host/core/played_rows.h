@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "common/database.h"
+#include "database/connection.h"
 
 namespace pelorin::host {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "common/database.h"
+#include "database/connection.h"
 
 namespace pelorin::host {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "common/value.h"
+#include "base/value.h"
 #include "host/odbc/odbc_handle.h"
 
 namespace pelorin::host {

@@ -3,7 +3,7 @@
 #include <exception>
 #include <utility>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 #include "win32/com/com_error.h"
 #include "win32/text/utf16.h"
 #include "win32/text/windows_api.h"

@@ -1,7 +1,7 @@
 #include "host/session/security_object.h"
 
-#include "controls/run_time_error.h"
-#include "controls/text_key.h"
+#include "base/run_time_error.h"
+#include "base/text_key.h"
 #include "host/session/services_object.h"
 
 namespace pelorin::host {

@@ -1,6 +1,6 @@
 #include "host/window/window.h"
 
-#include "common/guard.h"
+#include "base/current_error.h"
 #include "win32/com/com_error.h"
 #include "win32/text/utf16.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "common/guard.h"
+#include "base/current_error.h"
 #include "tests/fakes/scripted_connection.h"
 
 namespace pelorin::test {

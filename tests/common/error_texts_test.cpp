@@ -4,6 +4,7 @@
 #include <functional>
 #include <new>
 
+#include "base/current_error.h"
 #include "common/guard.h"
 #include "controls/grid.h"
 #include "controls/item_lists.h"

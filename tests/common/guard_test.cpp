@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "base/current_error.h"
 #include "tests/fakes/surroundings.h"
 
 namespace pelorin::test {

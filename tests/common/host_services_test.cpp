@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "common/guard.h"
+#include "base/current_error.h"
 #include "tests/fakes/recording_services.h"
 
 namespace pelorin::test {

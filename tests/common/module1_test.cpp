@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "common/guard.h"
+#include "base/current_error.h"
 #include "tests/fakes/surroundings.h"
 
 namespace pelorin::test {

@@ -1,7 +1,7 @@
 // The number of the error that a statement ends with; 0 when it does not fail.
 #pragma once
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace pelorin::test {
 

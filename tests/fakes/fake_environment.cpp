@@ -1,6 +1,6 @@
 #include "tests/fakes/fake_environment.h"
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace pelorin::test {
 

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "common/database.h"
+#include "database/connection.h"
 
 namespace pelorin::test {
 

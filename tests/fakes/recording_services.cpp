@@ -1,6 +1,6 @@
 #include "tests/fakes/recording_services.h"
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace pelorin::test {
 

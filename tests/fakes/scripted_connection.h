@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "common/database.h"
+#include "database/connection.h"
 #include "tests/fakes/journal.h"
 
 namespace pelorin::test {

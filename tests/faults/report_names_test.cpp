@@ -1,9 +1,9 @@
 // Under which name each procedure of the shared services, the catalogue and the summary reports.
 #include <gtest/gtest.h>
 
-#include "addin/ta_manager_members.h"
+#include "component/ta_manager_members.h"
+#include "tests/component/fake_entrance.h"
 #include "tests/faults/named_faults.h"
-#include "tests/wiring/fake_entrance.h"
 
 namespace pelorin::test {
 namespace {

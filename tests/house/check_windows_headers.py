@@ -5,7 +5,7 @@ import re
 
 from project import CODE, files, finish, numbered
 
-ROOMS = ("win32/", "addin/", "driver/", "host/", "tests/win32/", "tests/addin/", "tests/host/", "tests/windows/")
+ROOMS = ("win32/", "addin/", "driver/", "host/", "tests/host/", "tests/windows/")
 HEADER = re.compile(
     r"\s*#\s*include\s+<((win[a-z0-9]*|ole[a-z0-9]*|oaidl|objbase|objidl|ocidl|unknwn|wtypes|initguid|activscp|dispex"
     r"|comm(ctrl|dlg)|comdef|com[a-z]*utils?|shl[a-z]*|shell[a-z]*|uxtheme|dwmapi|gdiplus|richedit|htmlhelp|tlhelp32"

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "addin/component.h"
+#include "component/component.h"
 #include "controls/grid.h"
 #include "site/site_database.h"
 #include "tests/fakes/fake_environment.h"

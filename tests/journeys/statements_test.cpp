@@ -3,12 +3,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "addin/ta_manager_members.h"
+#include "component/ta_manager_members.h"
 #include "location/controller_folders.h"
 #include "site/statement_call.h"
+#include "tests/component/fake_entrance.h"
 #include "tests/journeys/editor_journey.h"
 #include "tests/journeys/sent_statements.h"
-#include "tests/wiring/fake_entrance.h"
 
 namespace pelorin::test {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace pelorin::site {
 namespace {

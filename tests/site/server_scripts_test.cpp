@@ -11,7 +11,7 @@
 #include <set>
 #include <tuple>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "site/batch_reader.h"
 #include "site/component_rights.h"
 #include "site/engine.h"

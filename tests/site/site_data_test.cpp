@@ -3,7 +3,7 @@
 
 #include <set>
 
-#include "controls/text_key.h"
+#include "base/text_key.h"
 #include "site/schema.h"
 #include "tests/site/site_fixture.h"
 

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "common/database.h"
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
+#include "database/connection.h"
 #include "site/site_database.h"
 #include "tests/site/fresh_site.h"
 

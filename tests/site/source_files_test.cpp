@@ -1,7 +1,7 @@
 // The languages in which tables, procedures, data and statements are written down.
 #include <gmock/gmock.h>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 #include "site/embedded_schema.h"
 #include "site/procedure.h"
 #include "site/row_data.h"

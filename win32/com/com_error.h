@@ -4,7 +4,7 @@
 
 #include <ole2.h>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace pelorin {
 

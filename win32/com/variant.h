@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "common/value.h"
+#include "base/value.h"
 #include "win32/com/com_ptr.h"
 
 namespace pelorin {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 #include "win32/text/system_text.h"
 #include "win32/text/utf16.h"
 #include "win32/views/firewall.h"

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "controls/flag_while.h"
+#include "base/flag_while.h"
 #include "win32/views/firewall.h"
 #include "win32/views/native_window.h"
 #include "win32/views/private_messages.h"

@@ -4,8 +4,8 @@
 
 #include "tests/windows/com/class_object.h"
 #include "tests/windows/com/fake_ado.h"
-#include "win32/com/ado_connection.h"
-#include "win32/com/ado_constants.h"
+#include "win32/ado/ado_connection.h"
+#include "win32/ado/ado_constants.h"
 
 namespace pelorin::test {
 namespace {

@@ -7,9 +7,9 @@
 #include <thread>
 #include <vector>
 
-#include "addin/dll/files.h"
-#include "addin/dll/windows_environment.h"
-#include "controls/run_time_error.h"
+#include "addin/files.h"
+#include "addin/windows_environment.h"
+#include "base/run_time_error.h"
 #include "win32/text/utf16.h"
 
 namespace pelorin::test {

@@ -5,8 +5,8 @@
 #include <array>
 #include <string>
 
-#include "addin/dll/handle.h"
-#include "addin/dll/windows_environment.h"
+#include "addin/handle.h"
+#include "addin/windows_environment.h"
 #include "win32/text/utf16.h"
 
 namespace pelorin::test {

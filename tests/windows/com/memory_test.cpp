@@ -6,8 +6,8 @@
 #include <atomic>
 
 #include "tests/windows/com/fake_ado.h"
-#include "win32/com/ado_connection.h"
-#include "win32/com/late_bound_services.h"
+#include "win32/ado/ado_connection.h"
+#include "win32/services/late_bound_services.h"
 
 namespace pelorin::test {
 namespace {

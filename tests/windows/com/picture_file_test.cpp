@@ -1,13 +1,13 @@
 // Bitmap files of every kind, as the platform reads them.
-#include "addin/dll/picture_file.h"
+#include "addin/picture_file.h"
 
 #include <gmock/gmock.h>
 #include <windows.h>
 
 #include <array>
 
-#include "addin/dll/files.h"
-#include "controls/run_time_error.h"
+#include "addin/files.h"
+#include "base/run_time_error.h"
 #include "tests/fakes/bitmap_builder.h"
 #include "tests/windows/support/device_contexts.h"
 #include "win32/text/utf16.h"

@@ -1,12 +1,12 @@
 // What counts as a window and what as an ADO connection.
-#include "win32/com/recognise.h"
+#include "win32/services/recognise.h"
 
 #include <gtest/gtest.h>
 #include <ole2.h>
 
 #include "tests/windows/com/fake_ado.h"
 #include "tests/windows/com/test_window.h"
-#include "win32/com/ado_constants.h"
+#include "win32/ado/ado_constants.h"
 
 namespace pelorin::test {
 namespace {

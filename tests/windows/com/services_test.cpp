@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/windows/com/fake_object.h"
-#include "win32/com/late_bound_services.h"
+#include "win32/services/late_bound_services.h"
 
 namespace pelorin::test {
 namespace {

@@ -1,7 +1,7 @@
 // Every type that ADO knows becomes the value it stands for.
 #include <gtest/gtest.h>
 
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 #include "win32/com/bstr.h"
 #include "win32/com/safe_array.h"
 #include "win32/com/variant.h"

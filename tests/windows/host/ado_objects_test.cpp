@@ -7,9 +7,9 @@
 #include "host/automation/class_registration.h"
 #include "host/core/embedded_connection.h"
 #include "site/site_database.h"
-#include "win32/com/ado_connection.h"
+#include "win32/ado/ado_connection.h"
 #include "win32/com/late_bound.h"
-#include "win32/com/recognise.h"
+#include "win32/services/recognise.h"
 
 namespace pelorin::test {
 namespace {

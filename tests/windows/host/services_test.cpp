@@ -3,8 +3,8 @@
 #include "host/core/resource_texts.h"
 #include "host/session/services_object.h"
 #include "host/session/window_object.h"
-#include "win32/com/late_bound_services.h"
-#include "win32/com/recognise.h"
+#include "win32/services/late_bound_services.h"
+#include "win32/services/recognise.h"
 
 namespace pelorin::test {
 namespace {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "addin/dll/handle.h"
+#include "addin/handle.h"
 #include "tests/windows/com/box_watcher.h"
 #include "tests/windows/com/component_dll.h"
 #include "win32/text/utf16.h"

@@ -1,6 +1,6 @@
 // A system that has no room for another window: whatever it refuses, the caller hears of it and
 // nothing half-made is left.
-#include "controls/run_time_error.h"
+#include "base/run_time_error.h"
 #include "tests/windows/views/desk.h"
 #include "tests/windows/views/sample_form.h"
 

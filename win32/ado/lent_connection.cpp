@@ -1,0 +1,33 @@
+#include "win32/ado/lent_connection.h"
+
+#include "win32/ado/ado_constants.h"
+
+namespace pelorin {
+
+namespace {
+
+// The class of an SQLState is its first two characters.
+constexpr const char* connectionException = "08";
+
+bool isOpen(LateBound& connection) {
+  return (toInt32(valueOf(connection.call(L"State"))) & ado::stateOpen) != 0;
+}
+
+bool firstErrorIsOfTheConnection(LateBound& connection) {
+  LateBound errors = connection.object(L"Errors");
+  if (toInt32(valueOf(errors.call(L"Count"))) == 0) return false;
+  LateBound first = errors.item(Variant::int32(0));
+  return toText(valueOf(first.call(L"SQLState"))).starts_with(connectionException);
+}
+
+}  // namespace
+
+bool LentConnection::isLost() noexcept {
+  try {
+    return !isOpen(object_) || firstErrorIsOfTheConnection(object_);
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+}  // namespace pelorin
