@@ -76,7 +76,7 @@ struct Load {
 };
 
 Load buildOnce(Module1& module, TimedConnection& connection) {
-  TreeView tree("tvTree", {});
+  TreeView tree(noParent, "tvTree", {});
   LocationNodes builder(module, tree, [] { return true; });
   connection.statements = {};
   const Clock::time_point start = Clock::now();

@@ -90,9 +90,6 @@ class Control {
   // A frame, a tab control (then `page` says on which page), or null for the form itself.
   Control* container() const noexcept { return parent_.container(); }
   int page() const noexcept { return parent_.page(); }
-  void setContainer(Control& container, int page = 0) noexcept {
-    parent_ = Parent(container, page);
-  }
 
   // Whether an operator could reach it now: visible, enabled and not covered, and so are its
   // containers, and its page is in front.

@@ -23,10 +23,6 @@ void Form::setCaption(const std::string& caption) {
   if (view_ != nullptr) view_->captionChanged();
 }
 
-void Form::addControls(std::initializer_list<Control*> inTabOrder) {
-  controls_.insert(controls_.end(), inTabOrder);
-}
-
 void Form::registerControl(Control& control) {
   controls_.push_back(&control);
 }

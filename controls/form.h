@@ -103,7 +103,6 @@ class Form {
   void setView(FormView* view) noexcept { view_ = view; }
 
  protected:
-  void addControls(std::initializer_list<Control*> inTabOrder);
   // `smallest` is the outer size; anchored controls follow the client area down to the size
   // `followed`, so that what stands apart there never meets.
   void setResizable(Size smallest, Size followed = {});

@@ -5,7 +5,6 @@
 
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "controls/control.h"
@@ -15,9 +14,6 @@ namespace pelorin {
 class Grid : public Control {
  public:
   Grid(Parent parent, std::string name, const DesignPlace& design, int columns);
-  Grid(std::string name, Place place, int columns)
-      : Grid(noParent, std::move(name), {place.left, place.top, place.width, place.height},
-             columns) {}
 
   int columns() const noexcept { return static_cast<int>(widths_.size()); }
   int columnWidth(int column) const;

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "controls/control.h"
@@ -21,8 +20,6 @@ struct ListRow {
 class ComboBox : public Control {
  public:
   ComboBox(Parent parent, std::string name, const DesignPlace& design);
-  ComboBox(std::string name, Place place)
-      : ComboBox(noParent, std::move(name), {place.left, place.top, place.width, place.height}) {}
 
   int listCount() const noexcept { return static_cast<int>(rows_.size()); }
   const ListRow& row(int index) const;
@@ -50,8 +47,6 @@ class ComboBox : public Control {
 class ListBox : public Control {
  public:
   ListBox(Parent parent, std::string name, const DesignPlace& design);
-  ListBox(std::string name, Place place)
-      : ListBox(noParent, std::move(name), {place.left, place.top, place.width, place.height}) {}
 
   int listCount() const noexcept { return static_cast<int>(rows_.size()); }
   const ListRow& row(int index) const;

@@ -9,7 +9,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 #include "base/text_key.h"
@@ -42,9 +41,6 @@ class ListView : public Control {
  public:
   ListView(Parent parent, std::string name, const DesignPlace& design,
            std::vector<ListColumn> columns, bool checkBoxes);
-  ListView(std::string name, Place place, std::vector<ListColumn> columns, bool checkBoxes)
-      : ListView(noParent, std::move(name), {place.left, place.top, place.width, place.height},
-                 std::move(columns), checkBoxes) {}
 
   const std::vector<ListColumn>& columns() const noexcept { return columns_; }
   bool checkBoxes() const noexcept { return checkBoxes_; }

@@ -22,7 +22,6 @@ class Parent {
   int page() const noexcept { return page_; }
 
  private:
-  friend class Control;
   friend class TabControl;
   Parent(Control& container, int page) noexcept;
 

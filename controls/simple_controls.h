@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <string>
-#include <utility>
 
 #include "controls/control.h"
 
@@ -12,9 +11,6 @@ namespace pelorin {
 class Label : public Control {
  public:
   Label(Parent parent, std::string name, const DesignPlace& design, std::string caption);
-  Label(std::string name, Place place, std::string caption)
-      : Label(noParent, std::move(name), {place.left, place.top, place.width, place.height},
-              std::move(caption)) {}
 
   // False shows "&" as it stands (a label that carries data, not a caption).
   bool useMnemonic() const noexcept { return useMnemonic_; }
@@ -30,17 +26,11 @@ class Label : public Control {
 class Frame : public Control {
  public:
   Frame(Parent parent, std::string name, const DesignPlace& design, std::string caption);
-  Frame(std::string name, Place place, std::string caption)
-      : Frame(noParent, std::move(name), {place.left, place.top, place.width, place.height},
-              std::move(caption)) {}
 };
 
 class Button : public Control {
  public:
   Button(Parent parent, std::string name, const DesignPlace& design, std::string caption);
-  Button(std::string name, Place place, std::string caption)
-      : Button(noParent, std::move(name), {place.left, place.top, place.width, place.height},
-               std::move(caption)) {}
 
   std::function<void()> onClick;
   // Does nothing on a button that cannot be reached.
@@ -50,9 +40,6 @@ class Button : public Control {
 class CheckBox : public Control {
  public:
   CheckBox(Parent parent, std::string name, const DesignPlace& design, std::string caption);
-  CheckBox(std::string name, Place place, std::string caption)
-      : CheckBox(noParent, std::move(name), {place.left, place.top, place.width, place.height},
-                 std::move(caption)) {}
 
   bool checked() const noexcept { return checked_; }
   // Raises the click when the state really changes.
@@ -68,9 +55,6 @@ class CheckBox : public Control {
 class TextBox : public Control {
  public:
   TextBox(Parent parent, std::string name, const DesignPlace& design, std::string text = {});
-  TextBox(std::string name, Place place, std::string text = {})
-      : TextBox(noParent, std::move(name), {place.left, place.top, place.width, place.height},
-                std::move(text)) {}
 
   // Key code of a typed character (Unicode); the handler sets it to 0 to discard the key.
   std::function<void(char32_t& key)> onKeyPress;

@@ -3,7 +3,6 @@
 
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "controls/control.h"
@@ -14,9 +13,6 @@ class TabControl : public Control {
  public:
   TabControl(Parent parent, std::string name, const DesignPlace& design,
              std::vector<std::string> captions);
-  TabControl(std::string name, Place place, std::vector<std::string> captions)
-      : TabControl(noParent, std::move(name), {place.left, place.top, place.width, place.height},
-                   std::move(captions)) {}
 
   const std::vector<std::string>& captions() const noexcept { return captions_; }
   // For controls on the page; pages are numbered from 0.

@@ -7,7 +7,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "controls/control.h"
@@ -52,8 +51,6 @@ struct NodeTexts {
 class TreeView : public Control {
  public:
   TreeView(Parent parent, std::string name, const DesignPlace& design);
-  TreeView(std::string name, Place place)
-      : TreeView(noParent, std::move(name), {place.left, place.top, place.width, place.height}) {}
 
   const std::vector<std::unique_ptr<TreeNode>>& roots() const noexcept { return roots_; }
   int count() const noexcept { return static_cast<int>(keys_.size()); }

@@ -180,7 +180,7 @@ class FilterListTest : public CatalogueTest {
     return found;
   }
 
-  ListBox list{"lstEventFilters", {}};
+  ListBox list{noParent, "lstEventFilters", {}};
 };
 
 TEST_F(FilterListTest, AsksTheHostThenTheDatabase) {
@@ -242,7 +242,7 @@ class EventsLoadedTest : public CatalogueTest {
     return found;
   }
 
-  ListBox list{"lstEventFilters", {}};
+  ListBox list{noParent, "lstEventFilters", {}};
 };
 
 TEST_F(EventsLoadedTest, IsClearedForEveryElementOfTheFilter) {

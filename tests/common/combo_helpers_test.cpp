@@ -15,7 +15,7 @@ class ComboHelpersTest : public testing::Test {
     combo.onClick = [this] { ++clicks; };
   }
 
-  ComboBox combo{"cmbCamera", {}};
+  ComboBox combo{noParent, "cmbCamera", {}};
   int clicks = 0;
 };
 

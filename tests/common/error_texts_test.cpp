@@ -34,7 +34,7 @@ ListItem rowWithKey(const std::string& key) {
 }
 
 struct OneColumn : ListView {
-  OneColumn() : ListView("lvw", {}, {{"One", 100}}, false) {}
+  OneColumn() : ListView(noParent, "lvw", {}, {{"One", 100}}, false) {}
 };
 
 RecordSet oneRecord(Surroundings& around) {
@@ -100,17 +100,17 @@ INSTANTIATE_TEST_SUITE_P(Values, ErrorTexts, testing::ValuesIn(valueErrors),
 
 const KnownError controlErrors[] = {
     {"comboWithoutTheRow", 380, "Invalid property value",
-     [](Surroundings&) { ComboBox("cmb", {}).setListIndex(0); }},
+     [](Surroundings&) { ComboBox(noParent, "cmb", {}).setListIndex(0); }},
     {"nothingSelected", 380, "Invalid property value",
-     [](Surroundings&) { ComboBox("cmb", {}).selectedData(); }},
+     [](Surroundings&) { ComboBox(noParent, "cmb", {}).selectedData(); }},
     {"listWithoutTheRow", 380, "Invalid property value",
-     [](Surroundings&) { ListBox("lst", {}).setSelected(0, true); }},
+     [](Surroundings&) { ListBox(noParent, "lst", {}).setSelected(0, true); }},
     {"tabMissing", 380, "Invalid property value",
-     [](Surroundings&) { TabControl("tab", {}, {"One"}).setTab(1); }},
+     [](Surroundings&) { TabControl(noParent, "tab", {}, {"One"}).setTab(1); }},
     {"cellMissing", 380, "Invalid property value",
-     [](Surroundings&) { Grid("grid", {}, 2).cell(0, 2); }},
+     [](Surroundings&) { Grid(noParent, "grid", {}, 2).cell(0, 2); }},
     {"lastRowOfTheGrid", 30015, "Cannot remove last non-fixed row",
-     [](Surroundings&) { Grid("grid", {}, 2).removeItem(1); }},
+     [](Surroundings&) { Grid(noParent, "grid", {}, 2).removeItem(1); }},
     {"itemMissing", 35600, "Index out of bounds", [](Surroundings&) { OneColumn().item(1); }},
     {"insertionBeyondTheEnd", 35600, "Index out of bounds",
      [](Surroundings&) {
@@ -118,7 +118,7 @@ const KnownError controlErrors[] = {
      }},
     {"parentMissing", 35601, "Element not found",
      [](Surroundings&) {
-       TreeView("tv", {}).addUnder("SA", {"LA1", "Server", "", 1});
+       TreeView(noParent, "tv", {}).addUnder("SA", {"LA1", "Server", "", 1});
      }},
     {"keyOfAListTwice", 35602, "Key is not unique in collection",
      [](Surroundings&) {
@@ -127,7 +127,7 @@ const KnownError controlErrors[] = {
        list.add(0, rowWithKey("a"));
      }},
     {"keyOfATreeTwice", 35602, "Key is not unique in collection", [](Surroundings&) {
-       TreeView tree("tv", {});
+       TreeView tree(noParent, "tv", {});
        tree.add(nullptr, {"SA", "Hardware", "", 1});
        tree.add(nullptr, {"sa", "Hardware", "", 1});
      }}};

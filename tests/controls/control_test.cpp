@@ -10,7 +10,7 @@
 namespace pelorin::test {
 
 TEST(Control, KnowsItsDesignNamePlaceAndText) {
-  const Label label("lblName", {10, 20, 30, 40}, "&Name:");
+  const Label label(noParent, "lblName", {10, 20, 30, 40}, "&Name:");
   EXPECT_EQ(label.name(), "lblName");
   EXPECT_EQ(label.place(), (Place{10, 20, 30, 40}));
   EXPECT_EQ(label.text(), "&Name:");
@@ -18,7 +18,7 @@ TEST(Control, KnowsItsDesignNamePlaceAndText) {
 }
 
 TEST(Control, TellsItsViewWhatChanged) {
-  Label label("lblName", {}, "a");
+  Label label(noParent, "lblName", {}, "a");
   const ListeningView view(label);
   label.setText("b");
   label.setVisible(false);
@@ -34,7 +34,7 @@ TEST(Control, TellsItsViewWhatChanged) {
 }
 
 TEST(Control, SettingWhatIsAlreadySetTellsNothing) {
-  Label label("lblName", {1, 2, 3, 4}, "a");
+  Label label(noParent, "lblName", {1, 2, 3, 4}, "a");
   const ListeningView view(label);
   label.setText("a");
   label.setVisible(true);
@@ -45,7 +45,7 @@ TEST(Control, SettingWhatIsAlreadySetTellsNothing) {
 }
 
 TEST(Control, IsReachableOnlyWhenVisibleAndEnabled) {
-  Button button("cmdOK", {}, "OK");
+  Button button(noParent, "cmdOK", {}, "OK");
   EXPECT_TRUE(button.reachable());
   button.setEnabled(false);
   EXPECT_FALSE(button.reachable());
@@ -55,7 +55,7 @@ TEST(Control, IsReachableOnlyWhenVisibleAndEnabled) {
 }
 
 TEST(Control, IsReachableOnlyInsideAReachableContainerOnThePageInFront) {
-  TabControl tabs("tabs", {}, {"One", "Two"});
+  TabControl tabs(noParent, "tabs", {}, {"One", "Two"});
   Frame frame(tabs.page(1), "fra", {}, "Frame");
   const Button button(frame, "cmd", {}, "Button");
   EXPECT_FALSE(button.reachable());
@@ -70,7 +70,7 @@ TEST(Control, IsReachableOnlyInsideAReachableContainerOnThePageInFront) {
 }
 
 TEST(TabControl, ShowsItsFirstPageFirstAndOnlyPagesThatExist) {
-  TabControl tabs("tabs", {}, {"One", "Two"});
+  TabControl tabs(noParent, "tabs", {}, {"One", "Two"});
   EXPECT_EQ(tabs.tab(), 0);
   EXPECT_EQ(errorNumberOf([&] { tabs.setTab(2); }), error_number::invalidPropertyValue);
   EXPECT_EQ(errorNumberOf([&] { tabs.setTab(-1); }), error_number::invalidPropertyValue);
@@ -78,7 +78,7 @@ TEST(TabControl, ShowsItsFirstPageFirstAndOnlyPagesThatExist) {
 }
 
 TEST(TabControl, TheOperatorCannotTurnPagesOfADisabledOne) {
-  TabControl tabs("tabs", {}, {"One", "Two"});
+  TabControl tabs(noParent, "tabs", {}, {"One", "Two"});
   const ListeningView view(tabs);
   tabs.setEnabled(false);
   tabs.userSelect(1);

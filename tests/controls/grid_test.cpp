@@ -17,14 +17,14 @@ class GridOfThree : public ::testing::Test {
     grid.onDoubleClick = [this] { ++doubleClicks; };
   }
 
-  Grid grid{"grid", {}, 2};
+  Grid grid{noParent, "grid", {}, 2};
   int doubleClicks = 0;
 };
 
 }  // namespace
 
 TEST(Grid, StartsWithAHeaderAndOneEmptyRow) {
-  const Grid grid("grid", {}, 7);
+  const Grid grid(noParent, "grid", {}, 7);
   EXPECT_EQ(grid.rows(), 2);
   EXPECT_EQ(grid.fixedRows(), 1);
   EXPECT_EQ(grid.columns(), 7);

@@ -17,7 +17,7 @@ class Combo : public ::testing::Test {
     combo.onClick = [this] { ++clicks; };
   }
 
-  ComboBox combo{"cmb", {}};
+  ComboBox combo{noParent, "cmb", {}};
   int clicks = 0;
 };
 
@@ -29,7 +29,7 @@ class Box : public ::testing::Test {
     list.onClick = [this] { ++clicks; };
   }
 
-  ListBox list{"lst", {}};
+  ListBox list{noParent, "lst", {}};
   int clicks = 0;
 };
 

@@ -31,7 +31,7 @@ class Rows : public ::testing::Test {
     return all;
   }
 
-  ListView list{"lvw", {}, {{"One", 100}}, true};
+  ListView list{noParent, "lvw", {}, {{"One", 100}}, true};
   int selections = 0;
   std::vector<int> checks;
 };

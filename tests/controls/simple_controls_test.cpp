@@ -7,7 +7,7 @@
 namespace pelorin::test {
 
 TEST(Button, RaisesItsClickOnlyWhenItCanBeReached) {
-  Button button("cmdOK", {}, "OK");
+  Button button(noParent, "cmdOK", {}, "OK");
   int clicks = 0;
   button.onClick = [&] { ++clicks; };
   button.userClick();
@@ -17,12 +17,12 @@ TEST(Button, RaisesItsClickOnlyWhenItCanBeReached) {
 }
 
 TEST(Label, WithoutAHandlerAClickDoesNothing) {
-  const Label label("lbl", {}, "x");
+  const Label label(noParent, "lbl", {}, "x");
   label.userClick();
 }
 
 TEST(CheckBox, RaisesTheClickWhenItsStateReallyChanges) {
-  CheckBox box("chk", {}, "x");
+  CheckBox box(noParent, "chk", {}, "x");
   int clicks = 0;
   box.onClick = [&] { ++clicks; };
   box.setChecked(false);
@@ -36,7 +36,7 @@ TEST(CheckBox, RaisesTheClickWhenItsStateReallyChanges) {
 }
 
 TEST(CheckBox, ShowsItsNewStateBeforeTheClickIsRaised) {
-  CheckBox box("chk", {}, "x");
+  CheckBox box(noParent, "chk", {}, "x");
   const ListeningView view(box);
   bool shown = false;
   box.onClick = [&] { shown = view.heard(Aspect::Checks); };
@@ -45,14 +45,14 @@ TEST(CheckBox, ShowsItsNewStateBeforeTheClickIsRaised) {
 }
 
 TEST(CheckBox, CannotBeToggledByTheOperatorWhileDisabled) {
-  CheckBox box("chk", {}, "x");
+  CheckBox box(noParent, "chk", {}, "x");
   box.setEnabled(false);
   box.userToggle();
   EXPECT_FALSE(box.checked());
 }
 
 TEST(TextBox, AHandlerDiscardsACharacterByZero) {
-  TextBox box("txt", {});
+  TextBox box(noParent, "txt", {});
   box.onKeyPress = [](char32_t& key) {
     if (key == 'x') key = 0;
   };
@@ -61,7 +61,7 @@ TEST(TextBox, AHandlerDiscardsACharacterByZero) {
 }
 
 TEST(TextBox, TypedTextIsNotEchoedToTheViewButSetTextIs) {
-  TextBox box("txt", {});
+  TextBox box(noParent, "txt", {});
   const ListeningView view(box);
   box.userText("typed");
   EXPECT_TRUE(view.changes.empty());
@@ -71,13 +71,13 @@ TEST(TextBox, TypedTextIsNotEchoedToTheViewButSetTextIs) {
 }
 
 TEST(TextBox, TakesNoKeysWhileItCannotBeReached) {
-  TextBox box("txt", {});
+  TextBox box(noParent, "txt", {});
   box.setEnabled(false);
   EXPECT_FALSE(box.userKey('a'));
 }
 
 TEST(TextBox, ValidatesWhenItIsLeft) {
-  TextBox box("txt", {});
+  TextBox box(noParent, "txt", {});
   box.userLeave();
   int validated = 0;
   box.onValidate = [&] { ++validated; };
@@ -86,7 +86,7 @@ TEST(TextBox, ValidatesWhenItIsLeft) {
 }
 
 TEST(TextBox, NeverValidatesWhileItIsDisabled) {
-  TextBox box("txt", {});
+  TextBox box(noParent, "txt", {});
   int validated = 0;
   box.onValidate = [&] { ++validated; };
   box.setEnabled(false);

@@ -26,7 +26,7 @@ class Nodes : public ::testing::Test {
     tree.onDoubleClick = [this] { ++doubleClicks; };
   }
 
-  TreeView tree{"tv", {}};
+  TreeView tree{noParent, "tv", {}};
   std::vector<std::string> clicks;
   int doubleClicks = 0;
 };

@@ -9,7 +9,8 @@ using ::testing::ElementsAre;
 
 class EventRowsTest : public ::testing::Test {
  protected:
-  ListView events{"lvwEvents", {}, {{"Type", 1}, {"Event No.", 1}, {"Description", 1}}, true};
+  ListView events{
+      noParent, "lvwEvents", {}, {{"Type", 1}, {"Event No.", 1}, {"Description", 1}}, true};
 
   static ListItem row(int number, const std::string& text) {
     ListItem item;
@@ -109,7 +110,7 @@ TEST_F(EventRowsTest, InsertionsOutOfOrderOrRangeAreError35600AndChangeNothing) 
 
 // The rule row by row, as the list would be filled without merging.
 TEST_F(EventRowsTest, MergingIsTheSameAsInsertingRowByRow) {
-  ListView plain{"plain", {}, {{"Type", 1}, {"Event No.", 1}}, true};
+  ListView plain{noParent, "plain", {}, {{"Type", 1}, {"Event No.", 1}}, true};
   unsigned state = 12345;
   const auto next = [&state](unsigned below) {
     state = state * 1664525U + 1013904223U;

@@ -11,8 +11,9 @@ using ::testing::StartsWith;
 class ZornEventCacheTest : public ::testing::Test, protected EditorSite {
  protected:
   ZornEventCache cache{module};
-  ListView events{"lvwEvents", {}, {{"Type", 1}, {"Event No.", 1}, {"Description", 1}}, true};
-  ComboBox combo{"cmbEvents", {}};
+  ListView events{
+      noParent, "lvwEvents", {}, {{"Type", 1}, {"Event No.", 1}, {"Description", 1}}, true};
+  ComboBox combo{noParent, "cmbEvents", {}};
 
   void load() { cache.ZornLoadEventCache(); }
   void show(std::int32_t category) { cache.ZornDisplayFilteredEvents(events, combo, category); }

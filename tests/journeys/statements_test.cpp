@@ -119,7 +119,7 @@ void StatementTableJourney::customizePicker() const {
 void StatementTableJourney::callWhatNoWindowReaches() {
   FakeEntrance entrance(component);
   EXPECT_GT(TAManagerMembers(entrance).GetAddInID("MorvatPelorin"), 0);
-  TreeView tree("tvTree", {});
+  TreeView tree(noParent, "tvTree", {});
   LocationNodes nodes(component.module(), tree, [] { return true; });
   ControllerFolders(nodes).AddFolderInfo(tree.add(nullptr, {"XD1", "Cameras"}));
 }

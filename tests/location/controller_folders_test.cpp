@@ -25,7 +25,7 @@ class ControllerFoldersTest : public testing::Test {
   std::vector<std::string> statements() const { return around.database->statements(); }
 
   Surroundings around;
-  TreeView tree{"tvTree", {}};
+  TreeView tree{noParent, "tvTree", {}};
   TreeNode& top = tree.add(nullptr, {"top", "Controller"});
   LocationNodes nodes{around.module, tree, [] { return true; }};
   ControllerFolders folders{nodes};

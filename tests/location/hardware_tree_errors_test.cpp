@@ -58,7 +58,7 @@ class HardwareTreeErrorsTest : public testing::Test {
   std::vector<std::string> reports() const { return around.screen.boxTexts(); }
 
   Surroundings around;
-  TreeView tree{"tvTree", {}};
+  TreeView tree{noParent, "tvTree", {}};
 };
 
 TEST_F(HardwareTreeErrorsTest, WithoutErrorsEverythingStandsAndNothingIsReported) {

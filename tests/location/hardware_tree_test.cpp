@@ -33,7 +33,7 @@ class HardwareTreeTest : public testing::Test {
   }
 
   Surroundings around;
-  TreeView tree{"tvTree", {}};
+  TreeView tree{noParent, "tvTree", {}};
 };
 
 TEST_F(HardwareTreeTest, ServerWithoutAnythingShowsItsConfigurationsAndThreeFolders) {

@@ -55,7 +55,7 @@ class IntegratedDevicesTest : public testing::Test {
   }
 
   Surroundings around;
-  TreeView tree{"tvTree", {}};
+  TreeView tree{noParent, "tvTree", {}};
   TreeNode& server = tree.add(nullptr, {"IF1", "server"});
   LocationNodes nodes{around.module, tree, [] { return true; }};
   IntegratedDevices devices{nodes};

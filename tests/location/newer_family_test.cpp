@@ -36,7 +36,7 @@ class NewerFamilyTest : public testing::Test {
   void refresh() { family.RefreshVn8Hardware(1, server); }
 
   Surroundings around;
-  TreeView tree{"tvTree", {}};
+  TreeView tree{noParent, "tvTree", {}};
   TreeNode& server = tree.add(nullptr, {"Zorn1", "server"});
   LocationNodes nodes{around.module, tree, [] { return true; }};
   NewerFamily family{nodes};

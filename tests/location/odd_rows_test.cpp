@@ -34,7 +34,7 @@ class OddRowsTest : public testing::Test {
   }
 
   Surroundings around;
-  TreeView tree{"tvTree", {}};
+  TreeView tree{noParent, "tvTree", {}};
 };
 
 TEST_F(OddRowsTest, EveryNullReadsAsEmptyOrZeroAndNoRowIsDropped) {

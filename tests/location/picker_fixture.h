@@ -21,7 +21,7 @@ class RecordingTarget : public LocationTarget {
   WindowHandle window = 0x77;
   std::string text = "before";
   std::string tag = "before";
-  ListView lvwLocation{"lvwLocation", {}, {{"Location", 4000}}, false};
+  ListView lvwLocation{noParent, "lvwLocation", {}, {{"Location", 4000}}, false};
   std::optional<RunTimeError> failure;
 
   WindowHandle locationOwner() const override { return window; }

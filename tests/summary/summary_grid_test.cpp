@@ -30,7 +30,7 @@ class SummaryGridTest : public testing::Test {
     EXPECT_LT(grid.row(), 1);
   }
 
-  Grid grid{"MSFlexGrid1", {}, summary_column::count};
+  Grid grid{noParent, "MSFlexGrid1", {}, summary_column::count};
 };
 
 TEST_F(SummaryGridTest, RowCarriesItsKeyInTheHiddenColumns) {

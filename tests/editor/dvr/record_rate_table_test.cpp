@@ -12,7 +12,7 @@ class RecordRateTableTest : public ::testing::Test {
   RecordRateTableTest() { table.InitRecordRateTable(); }
 
   RecordRateTable table;
-  ComboBox combo{"cmbDVRRecordRate", {}};
+  ComboBox combo{noParent, "cmbDVRRecordRate", {}};
   std::int16_t pal = 0;
   std::int16_t ntsc = 1;
 };
