@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <exception>
 #include <memory>
 #include <string>
@@ -58,15 +59,25 @@ class RecordSet {
   }
 
  private:
-  std::size_t fetchBlock();
-  std::size_t fetchOrKeepError();
+  struct Block {
+    std::vector<Value> cells;
+    std::size_t rows = 0;
+  };
+
+  void fetch(Block& block);
+  std::size_t fetchOrKeepError(std::vector<Value>& cells);
+  void moveToNextBlock();
+  std::size_t columnOf(std::string_view field, SourceLine where) const;
 
   std::unique_ptr<Cursor> cursor_;
   std::vector<std::string> columns_;
-  std::vector<Value> cells_;
-  std::size_t row_ = 0;   // of cells_, the current one is row_ - 1
-  std::size_t rows_ = 0;  // in cells_
+  Block block_;
+  std::size_t row_ = 0;  // of the block, the current one is row_ - 1
+  std::deque<Block> drained_;
   std::exception_ptr pending_;
+  // Rows are read alike: by the column that was asked for, the one that was asked for next.
+  mutable std::vector<std::size_t> followers_;
+  mutable std::size_t lastAsked_ = 0;
 };
 
 }  // namespace pelorin

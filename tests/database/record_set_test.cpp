@@ -46,6 +46,21 @@ TEST_F(RecordSetTest, FindsFieldsWithoutRegardToCase) {
   EXPECT_EQ(rows.text("dvrNAME"), "Unit 1");
 }
 
+TEST_F(RecordSetTest, FindsFieldsInWhateverOrderTheyAreAskedFor) {
+  answerRows(3);
+  RecordSet rows = database.open(sql);
+  ASSERT_TRUE(rows.next());
+  EXPECT_EQ(rows.text("DVRName"), "Unit 1");
+  EXPECT_EQ(rows.text("DVRName"), "Unit 1");
+  ASSERT_TRUE(rows.next());
+  EXPECT_EQ(rows.int32("ID"), 2);
+  EXPECT_EQ(rows.text("DVRName"), "Unit 2");
+  ASSERT_TRUE(rows.next());
+  EXPECT_EQ(rows.text("DVRName"), "Unit 3");
+  EXPECT_EQ(rows.int32("ID"), 3);
+  EXPECT_EQ(rows.int32("ID"), 3);
+}
+
 TEST_F(RecordSetTest, FindsFieldsByPosition) {
   answerRows(1);
   RecordSet rows = database.open(sql);
