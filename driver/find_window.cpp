@@ -1,7 +1,6 @@
 #include "driver/find_window.h"
 
 #include <array>
-#include <functional>
 
 #include "driver/waiting.h"
 #include "win32/text/utf16.h"
@@ -10,11 +9,9 @@ namespace pelorin::driver {
 
 namespace {
 
-using Visit = std::function<bool(HWND)>;
-
 // Visits until one is found.
 struct Search {
-  const Visit& wanted;
+  const Wanted& wanted;
   HWND found = nullptr;
 
   static BOOL CALLBACK step(HWND window, LPARAM address) noexcept {
@@ -28,24 +25,6 @@ struct Search {
     return FALSE;
   }
 };
-
-HWND findTopLevel(const Visit& wanted) {
-  Search search{.wanted = wanted};
-  EnumWindows(&Search::step, reinterpret_cast<LPARAM>(&search));
-  return search.found;
-}
-
-HWND findChild(HWND parent, const Visit& wanted) {
-  Search search{.wanted = wanted};
-  EnumChildWindows(parent, &Search::step, reinterpret_cast<LPARAM>(&search));
-  return search.found;
-}
-
-bool isOurs(HWND window) {
-  DWORD process = 0;
-  GetWindowThreadProcessId(window, &process);
-  return process == GetCurrentProcessId();
-}
 
 // A form that is slow to say its name must not pass for a message box.
 constexpr UINT answerMilliseconds = 1000 * UINT{patience.count()};
@@ -66,12 +45,47 @@ std::string boxText(HWND box) {
   return text;
 }
 
+// A button, and nothing but texts and buttons.
+bool looksLikeBox(HWND window) {
+  bool button = false;
+  const HWND other = findChild(window, [&](HWND child) {
+    const std::wstring kind = classOf(child);
+    button = button || kind == L"Button";
+    return kind != L"Button" && kind != L"Static";
+  });
+  return button && other == nullptr;
+}
+
+// Windows are looked at before they are asked: a form may be busy.
 bool isBox(HWND window) {
-  return isOurs(window) && IsWindowVisible(window) && classOf(window) == L"#32770" &&
-         designName(window).empty();
+  if (!isShown(window) || classOf(window) != L"#32770" || !looksLikeBox(window)) return false;
+  return processOf(window) != GetCurrentProcessId() || designName(window).empty();
 }
 
 }  // namespace
+
+HWND findTopLevel(const Wanted& wanted) {
+  Search search{.wanted = wanted};
+  EnumWindows(&Search::step, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+HWND findChild(HWND parent, const Wanted& wanted) {
+  if (parent == nullptr) return nullptr;  // the system would take it for the desktop
+  Search search{.wanted = wanted};
+  EnumChildWindows(parent, &Search::step, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+DWORD processOf(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process;
+}
+
+DWORD threadOf(HWND window) {
+  return GetWindowThreadProcessId(window, nullptr);
+}
 
 std::string designName(HWND window) {
   static const UINT message = RegisterWindowMessageW(L"WM_GETCONTROLNAME");
@@ -83,7 +97,8 @@ std::string designName(HWND window) {
 
 HWND findForm(const std::string& name) {
   return findTopLevel([&](HWND window) {
-    return isOurs(window) && IsWindowVisible(window) && designName(window) == name;
+    return processOf(window) == GetCurrentProcessId() && isShown(window) &&
+           designName(window) == name;
   });
 }
 
@@ -100,8 +115,12 @@ void waitUntilClosed(HWND form) {
   waitFor("end of a window", [&] { return !IsWindow(form) || !IsWindowVisible(form); });
 }
 
+HWND findControl(HWND form, const std::string& name) {
+  return findChild(form, [&](HWND window) { return designName(window) == name; });
+}
+
 HWND control(HWND form, const std::string& name) {
-  const HWND found = findChild(form, [&](HWND window) { return designName(window) == name; });
+  const HWND found = findControl(form, name);
   if (found == nullptr) throw DriverError(designName(form) + " has no control " + name);
   return found;
 }
@@ -125,10 +144,20 @@ bool isShown(HWND window) {
   return IsWindowVisible(window) != FALSE;
 }
 
+std::vector<OpenBox> findBoxes(DWORD process) {
+  std::vector<OpenBox> boxes;
+  findTopLevel([&](HWND window) {
+    if ((process == 0 || processOf(window) == process) && isBox(window)) {
+      boxes.push_back({.window = window, .title = textOf(window), .text = boxText(window)});
+    }
+    return false;
+  });
+  return boxes;
+}
+
 std::optional<OpenBox> findBox() {
-  const HWND window = findTopLevel(isBox);
-  if (window == nullptr) return std::nullopt;
-  return OpenBox{.window = window, .title = textOf(window), .text = boxText(window)};
+  const std::vector<OpenBox> boxes = findBoxes();
+  return boxes.empty() ? std::nullopt : std::optional(boxes.front());
 }
 
 OpenBox waitForBox() {

@@ -2,6 +2,7 @@
 // do, and the message boxes that are open.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -10,8 +11,17 @@
 
 namespace pelorin::driver {
 
-// Empty for a window that has no design name.
+// Empty for a window that has no design name. For windows of this process only: the name is written
+// into the asking process.
 std::string designName(HWND window);
+
+// The first one that is wanted, from the front to the back; null when there is none.
+using Wanted = std::function<bool(HWND)>;
+HWND findTopLevel(const Wanted& wanted);
+HWND findChild(HWND parent, const Wanted& wanted);
+
+DWORD processOf(HWND window);
+DWORD threadOf(HWND window);
 
 // The visible top-level window of this process with that design name; null when there is none.
 HWND findForm(const std::string& name);
@@ -19,7 +29,9 @@ HWND findForm(const std::string& name);
 HWND waitForForm(const std::string& name);
 void waitUntilClosed(HWND form);
 
-// A control of the form, shown or not, such as "cmdAddEdit(1)". DriverError when there is none.
+// A control of the form, shown or not, such as "cmdAddEdit(1)"; null when there is none.
+HWND findControl(HWND form, const std::string& name);
+// DriverError when there is none.
 HWND control(HWND form, const std::string& name);
 
 // Class and text.
@@ -33,7 +45,9 @@ struct OpenBox {
   std::string text;
 };
 
-// A message box of this process.
+// The message boxes of a process, from the front to the back; of every process when 0.
+std::vector<OpenBox> findBoxes(DWORD process = GetCurrentProcessId());
+// The one in front of this process.
 std::optional<OpenBox> findBox();
 // The first one that opens, now or soon; closed by the button with that number.
 OpenBox waitForBox();

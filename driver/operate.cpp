@@ -45,6 +45,12 @@ std::vector<std::string> rowTexts(HWND list, UINT countMessage, UINT lengthMessa
   return rows;
 }
 
+RECT rowArea(HWND listBox, int row) {
+  RECT area{};
+  SendMessageW(listBox, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&area));
+  return area;
+}
+
 void requireReady(HWND window) {
   waitFor(designName(window) + " enabled and in sight",
           [&] { return IsWindowEnabled(window) && isShown(window); });
@@ -87,6 +93,11 @@ void pressMnemonic(HWND window, char letter) {
 void typeText(HWND window, const std::string& text) {
   for (const wchar_t unit : toWide(text)) PostMessageW(window, WM_CHAR, unit, 1);
   settle(window);
+}
+
+void replaceText(HWND textBox, const std::string& text) {
+  SendMessageW(textBox, EM_SETSEL, 0, -1);
+  typeText(textBox, text);
 }
 
 void clickButton(HWND button) {
@@ -133,22 +144,21 @@ bool isTicked(HWND listBox, int row) {
   return SendMessageW(listBox, LB_GETSEL, static_cast<WPARAM>(row), 0) > 0;
 }
 
+POINT listBoxPlace(HWND listBox, int row) {
+  RECT client{};
+  GetClientRect(listBox, &client);
+  RECT place = rowArea(listBox, row);
+  if (place.bottom > client.bottom || place.top < 0) {
+    SendMessageW(listBox, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
+    place = rowArea(listBox, row);
+  }
+  return middleOf(place);
+}
+
 void tickRow(HWND listBox, int row) {
   requireReady(listBox);
   const bool before = isTicked(listBox, row);
-  const RECT client = [&] {
-    RECT area{};
-    GetClientRect(listBox, &area);
-    return area;
-  }();
-  RECT place{};
-  SendMessageW(listBox, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
-  if (place.bottom > client.bottom || place.top < 0) {
-    SendMessageW(listBox, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
-    SendMessageW(listBox, LB_GETITEMRECT, static_cast<WPARAM>(row),
-                 reinterpret_cast<LPARAM>(&place));
-  }
-  clickAt(listBox, middleOf(place));
+  clickAt(listBox, listBoxPlace(listBox, row));
   waitFor("tick in " + designName(listBox), [&] { return isTicked(listBox, row) != before; });
 }
 

@@ -17,6 +17,8 @@ void pressKey(HWND window, WORD key);
 // Alt and a letter, to whatever the window's form does with it.
 void pressMnemonic(HWND window, char letter);
 void typeText(HWND window, const std::string& text);
+// Types over what a text box holds.
+void replaceText(HWND textBox, const std::string& text);
 
 // Buttons and check boxes. DriverError when it is grey or hidden.
 void clickButton(HWND button);
@@ -32,6 +34,8 @@ int comboRow(HWND combo);
 void tickRow(HWND listBox, int row);
 std::vector<std::string> listBoxRows(HWND listBox);
 bool isTicked(HWND listBox, int row);
+// Where to click for the row, in the list box's pixels, once it is in sight.
+POINT listBoxPlace(HWND listBox, int row);
 
 // Tab controls.
 void chooseTab(HWND tabs, int page);

@@ -34,19 +34,6 @@ POINT placeOf(HWND list, int row, int part) {
   return {place.left + inside, (place.top + place.bottom) / 2};
 }
 
-// The box stands between the row's left edge and its text.
-POINT checkPlace(HWND list, int row) {
-  POINT place = placeOf(list, row, LVIR_LABEL);
-  const POINT edge = placeOf(list, row, LVIR_BOUNDS);
-  place.x = (place.x + edge.x) / 2;
-  LVHITTESTINFO hit{};
-  for (hit.pt = place; hit.pt.x >= edge.x; --hit.pt.x) {
-    SendMessageW(list, LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
-    if ((hit.flags & LVHT_ONITEM) == LVHT_ONITEMSTATEICON) return hit.pt;
-  }
-  throw DriverError(designName(list) + " has no box to tick in row " + std::to_string(row));
-}
-
 }  // namespace
 
 int rowCount(HWND list) {
@@ -101,15 +88,32 @@ int selectedRow(HWND list) {
       SendMessageW(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
 }
 
-void selectRow(HWND list, int row) {
+POINT rowPlace(HWND list, int row) {
   bringIntoSight(list, row);
-  clickAt(list, placeOf(list, row, LVIR_LABEL));
+  return placeOf(list, row, LVIR_LABEL);
+}
+
+// The box stands between the row's left edge and its text.
+POINT checkPlace(HWND list, int row) {
+  bringIntoSight(list, row);
+  POINT place = placeOf(list, row, LVIR_LABEL);
+  const POINT edge = placeOf(list, row, LVIR_BOUNDS);
+  place.x = (place.x + edge.x) / 2;
+  LVHITTESTINFO hit{};
+  for (hit.pt = place; hit.pt.x >= edge.x; --hit.pt.x) {
+    SendMessageW(list, LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    if ((hit.flags & LVHT_ONITEM) == LVHT_ONITEMSTATEICON) return hit.pt;
+  }
+  throw DriverError(designName(list) + " has no box to tick in row " + std::to_string(row));
+}
+
+void selectRow(HWND list, int row) {
+  clickAt(list, rowPlace(list, row));
   waitFor("row selected in " + designName(list), [&] { return selectedRow(list) == row; });
 }
 
 void doubleClickRow(HWND list, int row) {
-  bringIntoSight(list, row);
-  doubleClickAt(list, placeOf(list, row, LVIR_LABEL));
+  doubleClickAt(list, rowPlace(list, row));
 }
 
 bool isRowChecked(HWND list, int row) {
@@ -119,7 +123,6 @@ bool isRowChecked(HWND list, int row) {
 }
 
 void clickCheck(HWND list, int row) {
-  bringIntoSight(list, row);
   const bool before = isRowChecked(list, row);
   clickAt(list, checkPlace(list, row));
   waitFor("tick in " + designName(list), [&] { return isRowChecked(list, row) != before; });

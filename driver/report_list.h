@@ -17,6 +17,10 @@ std::vector<std::string> headersOf(HWND list);
 // -1 when there is none.
 int findRow(HWND list, int column, const std::string& text);
 
+// Where to click for the row and for its tick, in the list's pixels, once the row is in sight.
+POINT rowPlace(HWND list, int row);
+POINT checkPlace(HWND list, int row);
+
 // By a click on it.
 void selectRow(HWND list, int row);
 void doubleClickRow(HWND list, int row);

@@ -26,12 +26,7 @@ bool hasChildren(HWND tree, HTREEITEM node) {
   return item.cChildren != 0;
 }
 
-bool isExpanded(HWND tree, HTREEITEM node) {
-  const LRESULT state =
-      SendMessageW(tree, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(node), TVIS_EXPANDED);
-  return (state & TVIS_EXPANDED) != 0;
-}
-
+// A tree that scrolls at the click would take it for a click on another node.
 RECT textPlace(HWND tree, HTREEITEM node) {
   SendMessageW(tree, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(node));
   RECT place{};
@@ -73,6 +68,20 @@ std::vector<HTREEITEM> childrenOf(HWND tree, HTREEITEM parent) {
   return children;
 }
 
+bool isExpanded(HWND tree, HTREEITEM node) {
+  const LRESULT state =
+      SendMessageW(tree, TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(node), TVIS_EXPANDED);
+  return (state & TVIS_EXPANDED) != 0;
+}
+
+HTREEITEM selectedNode(HWND tree) {
+  return nextItem(tree, nullptr, TVGN_CARET);
+}
+
+POINT nodePlace(HWND tree, HTREEITEM node) {
+  return middleOf(textPlace(tree, node));
+}
+
 void expand(HWND tree, HTREEITEM node) {
   if (isExpanded(tree, node)) return;
   clickAt(tree, markPlace(tree, node));
@@ -95,15 +104,13 @@ HTREEITEM openPath(HWND tree, const std::vector<std::string>& captions) {
 }
 
 void clickNode(HWND tree, HTREEITEM node) {
-  // A tree that scrolls at the click would take it for a click on another node.
-  SendMessageW(tree, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(node));
-  clickAt(tree, middleOf(textPlace(tree, node)));
-  waitFor("selected node", [&] { return nextItem(tree, nullptr, TVGN_CARET) == node; });
+  clickAt(tree, nodePlace(tree, node));
+  waitFor("selected node", [&] { return selectedNode(tree) == node; });
 }
 
 void doubleClickNode(HWND tree, HTREEITEM node) {
   clickNode(tree, node);
-  doubleClickAt(tree, middleOf(textPlace(tree, node)));
+  doubleClickAt(tree, nodePlace(tree, node));
 }
 
 HTREEITEM findNode(HWND tree, const std::function<bool(HTREEITEM)>& wanted) {

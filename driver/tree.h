@@ -17,6 +17,11 @@ std::vector<HTREEITEM> childrenOf(HWND tree, HTREEITEM parent);  // of the roots
 HTREEITEM openPath(HWND tree, const std::vector<std::string>& captions);
 void expand(HWND tree, HTREEITEM node);
 
+bool isExpanded(HWND tree, HTREEITEM node);
+HTREEITEM selectedNode(HWND tree);  // null when there is none
+// Where to click for the node, in the tree's pixels, once it is in sight.
+POINT nodePlace(HWND tree, HTREEITEM node);
+
 void clickNode(HWND tree, HTREEITEM node);
 void doubleClickNode(HWND tree, HTREEITEM node);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "driver/find_window.h"
 #include "win32/com/com_error.h"
 
 namespace pelorin::test {
@@ -14,14 +15,6 @@ Variant truth(bool value) {
   variant.vt = VT_BOOL;
   variant.boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
   return variant;
-}
-
-BOOL CALLBACK findSummary(HWND window, LPARAM found) {
-  wchar_t text[64]{};
-  GetWindowTextW(window, text, 64);
-  if (!IsWindowVisible(window) || lstrcmpW(text, L"Pelorin") != 0) return TRUE;
-  *reinterpret_cast<HWND*>(found) = window;
-  return FALSE;
 }
 
 }  // namespace
@@ -79,9 +72,10 @@ HRESULT ServerTest::invoke(const wchar_t* member, WORD kind,
 }
 
 HWND ServerTest::summary() {
-  HWND found = nullptr;
-  EnumThreadWindows(GetCurrentThreadId(), findSummary, reinterpret_cast<LPARAM>(&found));
-  return found;
+  return driver::findTopLevel([](HWND window) {
+    return driver::threadOf(window) == GetCurrentThreadId() && driver::isShown(window) &&
+           driver::designName(window) == "frmTASummary";
+  });
 }
 
 void ServerTest::closeWindows() {

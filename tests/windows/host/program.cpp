@@ -21,32 +21,6 @@ std::wstring variable(const wchar_t* name) {
 
 constexpr DWORD patienceMilliseconds = 60000;
 
-struct WindowSearch {
-  DWORD process;
-  const wchar_t* className;
-  const wchar_t* title;
-  HWND found = nullptr;
-
-  static BOOL CALLBACK step(HWND window, LPARAM address) noexcept {
-    WindowSearch& search = *reinterpret_cast<WindowSearch*>(address);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    std::array<wchar_t, 128> text{};
-    GetClassNameW(window, text.data(), static_cast<int>(text.size()));
-    if (process != search.process || !IsWindowVisible(window)) return TRUE;
-    if (std::wstring_view(search.className) != text.data()) return TRUE;
-    GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
-    if (search.title != nullptr && std::wstring_view(search.title) != text.data()) return TRUE;
-    search.found = window;
-    return FALSE;
-  }
-};
-
-BOOL CALLBACK addLabel(HWND child, LPARAM address) noexcept {
-  *reinterpret_cast<std::string*>(address) += driver::textOf(child) + "\n";
-  return TRUE;
-}
-
 }  // namespace
 
 TemporaryFile::TemporaryFile(const std::string& name)
@@ -93,17 +67,22 @@ Program::~Program() {
   CloseHandle(read_);
 }
 
-HWND Program::waitForWindow(const wchar_t* className, const wchar_t* title) const {
+HWND Program::waitForWindow(const wchar_t* className, const char* title) const {
   return driver::waitFor(toUtf8(className), [&] {
-    WindowSearch search{process_.dwProcessId, className, title};
-    EnumWindows(&WindowSearch::step, reinterpret_cast<LPARAM>(&search));
-    return search.found;
+    return driver::findTopLevel([&](HWND window) {
+      return driver::processOf(window) == process_.dwProcessId && driver::isShown(window) &&
+             driver::classOf(window) == className &&
+             (title == nullptr || driver::textOf(window) == title);
+    });
   });
 }
 
 std::string Program::labels(HWND window) {
   std::string texts;
-  EnumChildWindows(window, addLabel, reinterpret_cast<LPARAM>(&texts));
+  driver::findChild(window, [&](HWND child) {
+    texts += driver::textOf(child) + "\n";
+    return false;
+  });
   return texts;
 }
 

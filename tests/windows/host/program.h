@@ -36,7 +36,7 @@ class Program {
   ~Program();
 
   // A window of the process with that class and, when given, that title.
-  HWND waitForWindow(const wchar_t* className, const wchar_t* title = nullptr) const;
+  HWND waitForWindow(const wchar_t* className, const char* title = nullptr) const;
   // All texts of labels in a window.
   static std::string labels(HWND window);
   Ended waitForEnd();

@@ -34,7 +34,7 @@ TEST(HostProgram, AnUnknownOptionOfAPlayedRequestIsPrinted) {
 
 TEST(HostProgram, AnUnknownOptionIsShownInABox) {
   Program program("--backwards");
-  const HWND box = program.waitForWindow(boxClass, L"Pelorin Host");
+  const HWND box = program.waitForWindow(boxClass, "Pelorin Host");
   EXPECT_THAT(Program::labels(box), HasSubstr("Unknown option: --backwards"));
   pressOk(box);
   EXPECT_EQ(program.waitForEnd().code, 2U);
@@ -43,7 +43,7 @@ TEST(HostProgram, AnUnknownOptionIsShownInABox) {
 TEST(HostProgram, AFileThatIsNoDatabaseIsShownInABoxAndLeftAlone) {
   const TemporaryFile file("memo.site", "Buy milk.");
   Program program(quoted("--database", file));
-  const HWND box = program.waitForWindow(boxClass, L"Pelorin Host");
+  const HWND box = program.waitForWindow(boxClass, "Pelorin Host");
   EXPECT_THAT(Program::labels(box), HasSubstr("memo.site"));
   pressOk(box);
   EXPECT_EQ(program.waitForEnd().code, 1U);
@@ -70,7 +70,7 @@ TEST(HostProgram, AMissingComponentIsShownInABoxAndTheHostStaysUp) {
   const HWND window = program.waitForWindow(mainClass);
   const HWND button = FindWindowExW(window, nullptr, L"Button", nullptr);
   PostMessageW(button, BM_CLICK, 0, 0);
-  const HWND box = program.waitForWindow(boxClass, L"Pelorin Host");
+  const HWND box = program.waitForWindow(boxClass, "Pelorin Host");
   EXPECT_THAT(Program::labels(box), HasSubstr("Z:\\nowhere\\Pelorin.dll"));
   pressOk(box);
   EXPECT_TRUE(IsWindow(window));
@@ -83,7 +83,7 @@ TEST(HostProgram, ASecondStartSaysSoAndEnds) {
   Program first(quoted("--database", file));
   const HWND window = first.waitForWindow(mainClass);
   Program second(quoted("--database", file));
-  const HWND box = second.waitForWindow(boxClass, L"Pelorin Host");
+  const HWND box = second.waitForWindow(boxClass, "Pelorin Host");
   EXPECT_THAT(Program::labels(box), HasSubstr("running already"));
   pressOk(box);
   EXPECT_EQ(second.waitForEnd().code, 3U);

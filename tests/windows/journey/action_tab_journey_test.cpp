@@ -43,8 +43,7 @@ class ActionTabJourney : public Journey {
     RECT area{};
     GetClientRect(box, &area);
     driver::clickAt(box, driver::middleOf(area));
-    SendMessageW(box, EM_SETSEL, 0, -1);
-    driver::typeText(box, text);
+    driver::replaceText(box, text);
   }
   std::string seconds() { return textOf(control(editor, "txtDVRAlarmDuration")); }
   void leaveFor(const std::string& expected) {

@@ -73,8 +73,7 @@ class CaptionsJourney : public Journey {
     waitFor("text box", [&] { return driver::isShown(box()); });
     EXPECT_EQ(textOf(box()), textOf(control(picker, name)));
     EXPECT_FALSE(driver::isShown(control(picker, "Label1")));
-    SendMessageW(box(), EM_SETSEL, 0, -1);
-    driver::typeText(box(), caption);
+    driver::replaceText(box(), caption);
     driver::pressKey(box(), key);
     waitFor("end of the text box", [&] { return !driver::isShown(box()); });
   }

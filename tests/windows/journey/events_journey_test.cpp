@@ -49,11 +49,7 @@ class EventsJourney : public Journey {
   }
   void expectHelp(const char* title) {
     clickButton(control(editor, "cmdHelp"));
-    waitFor(title, [&] {
-      const HWND help = FindWindowW(L"PelorinHostHelp", nullptr);
-      const HWND page = FindWindowExW(help, nullptr, L"EDIT", nullptr);
-      return page != nullptr && driver::textOf(page).starts_with(title);
-    });
+    waitFor(title, [&] { return helpText().starts_with(title); });
   }
 
   HWND editor = nullptr;

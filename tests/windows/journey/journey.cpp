@@ -41,6 +41,14 @@ HWND Journey::openPicker(HWND editor, const std::string& button) {
   return driver::waitForForm("FLocation");
 }
 
+std::string Journey::helpText() {
+  const HWND help = driver::findTopLevel(
+      [](HWND window) { return driver::classOf(window) == L"PelorinHostHelp"; });
+  const HWND page =
+      driver::findChild(help, [](HWND child) { return driver::classOf(child) == L"Edit"; });
+  return page == nullptr ? std::string() : driver::textOf(page);
+}
+
 void Journey::checkEvents(HWND editor, const std::vector<std::string>& numbers) {
   const HWND events = control(editor, "lvwEvents");
   driver::tickRow(control(editor, "lstEventFilters"), 0);

@@ -28,6 +28,9 @@ class Journey : public testing::Test {
   // The row of the summary with these first two cells; -1 when there is none.
   int summaryRow(const std::string& triggerText, const std::string& location) const;
 
+  // The page that the host's help shows; empty when it shows none.
+  static std::string helpText();
+
   // Ticks the first category and the events with these numbers.
   void checkEvents(HWND editor, const std::vector<std::string>& numbers);
   // Adds doors of the lobby to the editor's list.

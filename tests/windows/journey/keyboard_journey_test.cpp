@@ -50,8 +50,8 @@ class KeyboardJourney : public Journey {
             [&] { return driver::isRowChecked(events, 0) && driver::isRowChecked(events, 1); });
   }
   static std::string caretText(HWND tree) {
-    const LRESULT node = SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0);
-    return node == 0 ? "" : driver::nodeText(tree, reinterpret_cast<HTREEITEM>(node));
+    const HTREEITEM node = driver::selectedNode(tree);
+    return node == nullptr ? "" : driver::nodeText(tree, node);
   }
   void walkTo(HWND tree, const std::string& caption) {
     constexpr int mostNodes = 40;

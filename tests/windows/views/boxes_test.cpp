@@ -20,7 +20,6 @@ class DuringBox {
   DuringBox& operator=(const DuringBox&) = delete;
   ~DuringBox() { stop(); }
 
-  static HWND box() { return FindWindowW(L"#32770", L"Pelorin"); }
   static void answer(HWND box, int button) {
     PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
   }
@@ -30,11 +29,11 @@ class DuringBox {
     if (timer_ != 0) KillTimer(nullptr, std::exchange(timer_, UINT_PTR{0}));
   }
   static void CALLBACK tick(HWND, UINT, UINT_PTR, DWORD) {
-    const HWND found = box();
-    if (found == nullptr || !IsWindowVisible(found)) return;
+    const std::optional<driver::OpenBox> box = driver::findBox();
+    if (!box) return;
     stop();
     const auto step = std::exchange(step_, nullptr);
-    if (step) step(found);
+    if (step) step(box->window);
   }
 
   static inline UINT_PTR timer_ = 0;
@@ -123,15 +122,15 @@ TEST_F(Boxes, ModelsAreFollowedWhileABoxIsOpenInsideAHandler) {
   form.cmdHelp.onClick = [&] {
     form.lblName.setText("before");
     ask(BoxButtons::Ok, [&](HWND box) {
-      EXPECT_EQ(textOf(find(form, "lblName")), L"before");
+      EXPECT_EQ(textOf(find(form, "lblName")), "before");
       form.lblName.setText("during");
       pump();
-      EXPECT_EQ(textOf(find(form, "lblName")), L"during");
+      EXPECT_EQ(textOf(find(form, "lblName")), "during");
       DuringBox::answer(box, IDOK);
     });
   };
   clickMiddle(find(form, "cmdHelp"));
-  EXPECT_EQ(textOf(find(form, "lblName")), L"during");
+  EXPECT_EQ(textOf(find(form, "lblName")), "during");
 }
 
 TEST_F(Boxes, TheHostMayGoAwayWhileABoxIsOpen) {

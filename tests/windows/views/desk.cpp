@@ -1,12 +1,9 @@
 #include "tests/windows/views/desk.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-
-#include "win32/text/utf16.h"
 
 namespace pelorin::test {
 
@@ -17,12 +14,6 @@ constexpr DWORD patience = 5000;
 BOOL CALLBACK addWindow(HWND window, LPARAM list) {
   reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
   return TRUE;
-}
-
-std::vector<HWND> childrenOf(HWND window) {
-  std::vector<HWND> children;
-  EnumChildWindows(window, &addWindow, reinterpret_cast<LPARAM>(&children));
-  return children;
 }
 
 INPUT keyInput(WORD key, bool up) {
@@ -70,30 +61,6 @@ int gdiObjectsInTable() {
 int gdiObjects() {
   const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
   return counted != 0 ? static_cast<int>(counted) : gdiObjectsInTable();
-}
-
-std::string nameOf(HWND window) {
-  const UINT message = RegisterWindowMessageW(L"WM_GETCONTROLNAME");
-  std::array<wchar_t, 100> buffer{};
-  const LRESULT written =
-      SendMessageW(window, message, buffer.size(), reinterpret_cast<LPARAM>(buffer.data()));
-  return written == 0 ? std::string() : toUtf8(buffer.data());
-}
-
-std::wstring textOf(HWND window) {
-  std::array<wchar_t, 1000> text{};
-  GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
-  return text.data();
-}
-
-std::wstring classOf(HWND window) {
-  std::array<wchar_t, 100> name{};
-  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-  return name.data();
-}
-
-bool isShown(HWND window) {
-  return IsWindowVisible(window) != 0;
 }
 
 std::vector<HWND> topLevelWindows() {
@@ -149,10 +116,7 @@ HWND Desk::windowOf(const Form& form) const {
 }
 
 HWND Desk::find(const Form& form, const std::string& controlName) const {
-  for (HWND window : childrenOf(windowOf(form))) {
-    if (nameOf(window) == controlName) return window;
-  }
-  return nullptr;
+  return driver::findControl(windowOf(form), controlName);
 }
 
 void Desk::press(WORD key, const std::vector<WORD>& held) {
@@ -189,7 +153,7 @@ void Desk::clickMiddle(HWND window) {
 }
 
 std::string Desk::focusName() const {
-  return nameOf(GetFocus());
+  return driver::designName(GetFocus());
 }
 
 }  // namespace pelorin::test

@@ -7,9 +7,14 @@
 #include <string>
 #include <vector>
 
+#include "driver/find_window.h"
 #include "win32/views/native_screen.h"
 
 namespace pelorin::test {
+
+using driver::classOf;
+using driver::isShown;
+using driver::textOf;
 
 class Desk : public ::testing::Test {
  protected:
@@ -44,10 +49,7 @@ class Desk : public ::testing::Test {
   HWND host_ = nullptr;
 };
 
-std::string nameOf(HWND window);
-std::wstring textOf(HWND window);
-std::wstring classOf(HWND window);
-bool isShown(HWND window);
+// Of the calling thread, seen or not.
 std::vector<HWND> topLevelWindows();
 // Fonts, bitmaps, regions and the like that this process holds.
 int gdiObjects();

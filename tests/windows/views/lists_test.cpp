@@ -1,4 +1,8 @@
 // Combo box, list box with check marks, list view and grid.
+#include <gmock/gmock.h>
+
+#include "driver/operate.h"
+#include "driver/report_list.h"
 #include "tests/windows/views/desk.h"
 #include "tests/windows/views/sample_form.h"
 #include "win32/views/windows_api.h"
@@ -20,44 +24,20 @@ class Lists : public Desk {
     PostMessageW(control(name), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), MAKELPARAM(at.x, at.y));
     pump();
   }
-  std::wstring cell(const std::string& name, int row, int column) const {
-    std::wstring text(100, L'\0');
-    LVITEMW item{};
-    item.iSubItem = column;
-    item.pszText = text.data();
-    item.cchTextMax = static_cast<int>(text.size());
-    const LRESULT length =
-        ask(name, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-    return item.pszText == nullptr
-               ? L""
-               : std::wstring(item.pszText).substr(0, static_cast<std::size_t>(length));
+  std::string cell(const std::string& name, int row, int column) const {
+    return driver::cell(control(name), row, column);
   }
-  RECT rowRect(const std::string& name, int row, int part) const {
-    RECT rect{};
-    rect.left = part;
-    ask(name, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect));
-    return rect;
-  }
+  int rowCount(const std::string& name) const { return driver::rowCount(control(name)); }
+  int selectedRow(const std::string& name) const { return driver::selectedRow(control(name)); }
+  bool isChecked(int row) const { return driver::isRowChecked(control("lvwEvents"), row); }
   void clickRow(const std::string& name, int row) {
-    const RECT rect = rowRect(name, row, LVIR_LABEL);
-    click(control(name), {rect.left + 5, (rect.top + rect.bottom) / 2});
+    click(control(name), driver::rowPlace(control(name), row));
   }
   void clickCheck(int row) {
-    const RECT rect = rowRect("lvwEvents", row, LVIR_LABEL);
-    click(control("lvwEvents"), {rect.left - 8, (rect.top + rect.bottom) / 2});
-  }
-  UINT checkState(int row) const {
-    return static_cast<UINT>(
-               ask("lvwEvents", LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK)) >>
-           12U;
-  }
-  int selectedRow(const std::string& name) const {
-    return static_cast<int>(ask(name, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+    click(control("lvwEvents"), driver::checkPlace(control("lvwEvents"), row));
   }
   void clickFilter(int row) {
-    RECT rect{};
-    ask("lstFilters", LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect));
-    click(control("lstFilters"), {rect.left + 8, (rect.top + rect.bottom) / 2});
+    click(control("lstFilters"), driver::listBoxPlace(control("lstFilters"), row));
   }
   void showSecondPage() {
     form.tabs.setTab(1);
@@ -70,18 +50,15 @@ class Lists : public Desk {
 }  // namespace
 
 TEST_F(Lists, AComboShowsRowsAndCurrentRowOfItsModel) {
-  EXPECT_EQ(ask("cmbKind", CB_GETCOUNT), 5);
-  EXPECT_EQ(ask("cmbKind", CB_GETCURSEL), CB_ERR);
+  EXPECT_EQ(driver::comboRows(control("cmbKind")).size(), 5U);
+  EXPECT_EQ(driver::comboRow(control("cmbKind")), -1);
   form.cmbKind.clear();
   form.cmbKind.addItem("Ü");
   form.cmbKind.addItem("B");
   form.cmbKind.setListIndex(1);
   pump();
-  EXPECT_EQ(ask("cmbKind", CB_GETCOUNT), 2);
-  EXPECT_EQ(ask("cmbKind", CB_GETCURSEL), 1);
-  std::wstring text(10, L'\0');
-  ask("cmbKind", CB_GETLBTEXT, 0, reinterpret_cast<LPARAM>(text.data()));
-  EXPECT_STREQ(text.c_str(), L"Ü");
+  EXPECT_THAT(driver::comboRows(control("cmbKind")), testing::ElementsAre("Ü", "B"));
+  EXPECT_EQ(driver::comboRow(control("cmbKind")), 1);
 }
 
 TEST_F(Lists, AnArrowInAComboPicksTheNextRow) {
@@ -98,7 +75,7 @@ TEST_F(Lists, AComboFollowsAHandlerThatChoosesAnotherRow) {
   form.cmbKind.onClick = [&] { form.cmbKind.setListIndex(4); };
   SetFocus(control("cmbKind"));
   press(VK_DOWN);
-  EXPECT_EQ(ask("cmbKind", CB_GETCURSEL), 4);
+  EXPECT_EQ(driver::comboRow(control("cmbKind")), 4);
 }
 
 TEST_F(Lists, TheWheelOverAClosedComboDoesNothing) {
@@ -107,7 +84,7 @@ TEST_F(Lists, TheWheelOverAClosedComboDoesNothing) {
   wheelOver("cmbKind");
   SetFocus(control("cmbKind"));
   wheelOver("cmbKind");
-  EXPECT_EQ(ask("cmbKind", CB_GETCURSEL), 2);
+  EXPECT_EQ(driver::comboRow(control("cmbKind")), 2);
   EXPECT_EQ(form.cmbKind.listIndex(), 2);
 }
 
@@ -191,29 +168,27 @@ TEST_F(Lists, AFilterThatTheHandlerTicksAgainStaysTicked) {
   };
   clickFilter(2);
   EXPECT_TRUE(form.lstFilters.selected(2));
-  EXPECT_GT(ask("lstFilters", LB_GETSEL, 2), 0);
+  EXPECT_TRUE(driver::isTicked(control("lstFilters"), 2));
 }
 
 TEST_F(Lists, FilterTextsAreThereForAccessibilityTools) {
-  std::wstring text(20, L'\0');
-  ask("lstFilters", LB_GETTEXT, 5, reinterpret_cast<LPARAM>(text.data()));
-  EXPECT_STREQ(text.c_str(), L"Filter 5");
+  EXPECT_EQ(driver::listBoxRows(control("lstFilters")).at(5), "Filter 5");
 }
 
 TEST_F(Lists, AListViewAsksItsModelForTexts) {
-  EXPECT_EQ(ask("lvwEvents", LVM_GETITEMCOUNT), 30);
-  EXPECT_EQ(cell("lvwEvents", 0, 0), L"Type 1");
-  EXPECT_EQ(cell("lvwEvents", 9, 1), L"00010");
+  EXPECT_EQ(rowCount("lvwEvents"), 30);
+  EXPECT_EQ(cell("lvwEvents", 0, 0), "Type 1");
+  EXPECT_EQ(cell("lvwEvents", 9, 1), "00010");
   form.lvwEvents.remove(1);
   pump();
-  EXPECT_EQ(ask("lvwEvents", LVM_GETITEMCOUNT), 29);
-  EXPECT_EQ(cell("lvwEvents", 0, 0), L"Type 2");
+  EXPECT_EQ(rowCount("lvwEvents"), 29);
+  EXPECT_EQ(cell("lvwEvents", 0, 0), "Type 2");
 }
 
 TEST_F(Lists, AClickOnTheBoxTogglesTheCheck) {
   clickCheck(2);
   EXPECT_TRUE(form.lvwEvents.item(3).checked);
-  EXPECT_EQ(checkState(2), 2U);
+  EXPECT_TRUE(isChecked(2));
   clickCheck(2);
   EXPECT_FALSE(form.lvwEvents.item(3).checked);
   EXPECT_EQ(form.count("check 3"), 2);
@@ -231,8 +206,8 @@ TEST_F(Lists, SpaceTogglesTheCheckOfTheFocusedRow) {
 TEST_F(Lists, ChecksSetByTheProgramAreShown) {
   form.lvwEvents.setAllChecked(true);
   pump();
-  EXPECT_EQ(checkState(0), 2U);
-  EXPECT_EQ(checkState(29), 2U);
+  EXPECT_TRUE(isChecked(0));
+  EXPECT_TRUE(isChecked(29));
   EXPECT_EQ(form.count("check 1"), 0);
 }
 
@@ -265,14 +240,14 @@ TEST_F(Lists, FiftyThousandRowsFollow) {
     form.lvwEvents.add(0, item);
   }
   pump();
-  EXPECT_EQ(ask("lvwEvents", LVM_GETITEMCOUNT), 50030);
+  EXPECT_EQ(rowCount("lvwEvents"), 50030);
 }
 
 TEST_F(Lists, AGridShowsDataRowsBelowItsHeader) {
   showSecondPage();
-  EXPECT_EQ(ask("grid", LVM_GETITEMCOUNT), 40);
-  EXPECT_EQ(cell("grid", 0, 0), L"Trigger 1");
-  EXPECT_EQ(cell("grid", 39, 1), L"00040");
+  EXPECT_EQ(rowCount("grid"), 40);
+  EXPECT_EQ(cell("grid", 0, 0), "Trigger 1");
+  EXPECT_EQ(cell("grid", 39, 1), "00040");
 }
 
 TEST_F(Lists, AGridHasItsHiddenColumnsWithoutWidth) {
@@ -280,7 +255,7 @@ TEST_F(Lists, AGridHasItsHiddenColumnsWithoutWidth) {
   const HWND header = reinterpret_cast<HWND>(ask("grid", LVM_GETHEADER));
   EXPECT_EQ(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0), 4);
   EXPECT_EQ(ask("grid", LVM_GETCOLUMNWIDTH, 3), 0);
-  EXPECT_EQ(cell("grid", 0, 3), L"77");
+  EXPECT_EQ(cell("grid", 0, 3), "77");
 }
 
 TEST_F(Lists, AHiddenColumnCannotBeGivenAWidth) {
@@ -375,7 +350,7 @@ TEST_F(Lists, TheScrollPlaceOfAGridIsKnownToTheModelAndObeyed) {
 TEST_F(Lists, AGridWithoutDataRowsShowsItsHeaderOnly) {
   form.grid.setRows(1);
   showSecondPage();
-  EXPECT_EQ(ask("grid", LVM_GETITEMCOUNT), 0);
+  EXPECT_EQ(rowCount("grid"), 0);
   EXPECT_EQ(selectedRow("grid"), -1);
 }
 

@@ -1,4 +1,4 @@
-#include <cstring>
+#include "driver/tree.h"
 
 #include "tests/windows/views/desk.h"
 #include "tests/windows/views/sample_form.h"
@@ -15,36 +15,16 @@ class Tree : public Desk {
     open(form);
     tree = find(form, "tvTree");
   }
-  HTREEITEM root() const { return TreeView_GetRoot(tree); }
-  HTREEITEM child(HTREEITEM parent, int index = 0) const {
-    HTREEITEM item = TreeView_GetChild(tree, parent);
-    for (; index > 0; --index) item = TreeView_GetNextSibling(tree, item);
-    return item;
+  HTREEITEM root() const { return driver::childrenOf(tree, nullptr).front(); }
+  HTREEITEM child(HTREEITEM parent, std::size_t index = 0) const {
+    return driver::childrenOf(tree, parent).at(index);
   }
   int itemCount() const { return static_cast<int>(TreeView_GetCount(tree)); }
-  std::wstring textOfItem(HTREEITEM handle) const {
-    std::wstring text(100, L'\0');
-    TVITEMW item{};
-    item.mask = TVIF_TEXT | TVIF_HANDLE;
-    item.hItem = handle;
-    item.pszText = text.data();
-    item.cchTextMax = static_cast<int>(text.size());
-    SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    return item.pszText;
-  }
-  bool isExpanded(HTREEITEM item) const {
-    return (TreeView_GetItemState(tree, item, TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
-  }
   void expandByOperator(HTREEITEM item) {
     TreeView_SelectItem(tree, item);
     press(VK_RIGHT);
   }
-  void clickItem(HTREEITEM item) {
-    RECT rect{};
-    std::memcpy(&rect, &item, sizeof item);
-    SendMessageW(tree, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&rect));
-    click(tree, {rect.left + 5, (rect.top + rect.bottom) / 2});
-  }
+  void clickItem(HTREEITEM item) { click(tree, driver::nodePlace(tree, item)); }
 
   SampleForm form;
   HWND tree = nullptr;
@@ -55,11 +35,11 @@ class Tree : public Desk {
 TEST_F(Tree, OnlyNodesThatCanBeSeenAreMade) {
   openTree();
   EXPECT_EQ(itemCount(), 4);
-  EXPECT_TRUE(isExpanded(root()));
+  EXPECT_TRUE(driver::isExpanded(tree, root()));
   SetFocus(tree);
   expandByOperator(child(root(), 1));
   EXPECT_EQ(itemCount(), 8);
-  EXPECT_EQ(textOfItem(child(child(root(), 1), 3)), L"Door 3");
+  EXPECT_EQ(driver::nodeText(tree, child(child(root(), 1), 3)), "Door 3");
   EXPECT_TRUE(form.tvTree.find("folder1")->expanded);
 }
 
@@ -127,7 +107,7 @@ TEST_F(Tree, ASelectionByTheProgramIsShownAndRaisesNothing) {
   openTree();
   form.tvTree.setSelectedNode(form.tvTree.find("folder2.1"));
   pump();
-  EXPECT_EQ(textOfItem(TreeView_GetSelection(tree)), L"Door 1");
+  EXPECT_EQ(driver::nodeText(tree, driver::selectedNode(tree)), "Door 1");
   EXPECT_EQ(form.count("node folder2.1"), 0);
 }
 
@@ -140,10 +120,10 @@ TEST_F(Tree, NodesAddedAndRemovedLaterAreFollowed) {
   form.tvTree.addUnder("folder1", {"late", "Late", "", 1});
   form.tvTree.addUnder("root", {"last", "Last", "", 1});
   pump();
-  EXPECT_EQ(textOfItem(child(root(), 0)), L"Folder 1");
-  EXPECT_EQ(textOfItem(child(root(), 2)), L"Last");
-  EXPECT_EQ(textOfItem(child(child(root(), 0), 2)), L"Door 3");
-  EXPECT_EQ(textOfItem(child(child(root(), 0), 3)), L"Late");
+  EXPECT_EQ(driver::nodeText(tree, child(root(), 0)), "Folder 1");
+  EXPECT_EQ(driver::nodeText(tree, child(root(), 2)), "Last");
+  EXPECT_EQ(driver::nodeText(tree, child(child(root(), 0), 2)), "Door 3");
+  EXPECT_EQ(driver::nodeText(tree, child(child(root(), 0), 3)), "Late");
   EXPECT_EQ(itemCount(), 8);
 }
 
@@ -154,7 +134,7 @@ TEST_F(Tree, ANodeThatTakesTheKeyOfARemovedOneIsTheNewNode) {
   pump();
   clickItem(child(root(), 2));
   EXPECT_EQ(form.tvTree.selectedNode(), form.tvTree.find("folder0"));
-  EXPECT_EQ(textOfItem(TreeView_GetSelection(tree)), L"Second life");
+  EXPECT_EQ(driver::nodeText(tree, driver::selectedNode(tree)), "Second life");
 }
 
 TEST_F(Tree, AClearedTreeIsEmpty) {

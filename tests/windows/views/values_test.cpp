@@ -47,7 +47,7 @@ TEST_F(Values, EveryControlIsOfAStandardClassAndAnswersItsName) {
     ASSERT_NE(control(name), nullptr) << name;
     EXPECT_EQ(classOf(control(name)), windowClass) << name;
   }
-  EXPECT_EQ(nameOf(windowOf(form)), "frmSample");
+  EXPECT_EQ(driver::designName(windowOf(form)), "frmSample");
 }
 
 TEST_F(Values, ANameIsCutToTheCapacityWithItsTerminator) {
@@ -77,10 +77,10 @@ TEST_F(Values, TextsFollowTheModels) {
   form.cmdHelp.setText("H&ilfe");
   form.txtName.setText("Grüße 漢");
   pump();
-  EXPECT_EQ(textOf(windowOf(form)), L"Ä caption 漢");
-  EXPECT_EQ(textOf(control("lblName")), L"&Other:");
-  EXPECT_EQ(textOf(control("cmdHelp")), L"H&ilfe");
-  EXPECT_EQ(textOf(control("txtName")), L"Grüße 漢");
+  EXPECT_EQ(textOf(windowOf(form)), "Ä caption 漢");
+  EXPECT_EQ(textOf(control("lblName")), "&Other:");
+  EXPECT_EQ(textOf(control("cmdHelp")), "H&ilfe");
+  EXPECT_EQ(textOf(control("txtName")), "Grüße 漢");
 }
 
 TEST_F(Values, ALabelThatGrowsTakesTheFreeRoomBesideIt) {
@@ -227,7 +227,7 @@ TEST_F(Values, ARefusedCharacterOfTwoHalvesLeavesNothingBehind) {
       L"1\xD83D\xDE00"
       L"2");
   EXPECT_EQ(form.txtInside.text(), "12");
-  EXPECT_EQ(textOf(control("txtInside")), L"12");
+  EXPECT_EQ(textOf(control("txtInside")), "12");
 }
 
 TEST_F(Values, TextSetByTheProgramIsNoActOfTheOperator) {

@@ -60,7 +60,7 @@ TEST_F(Windows, TheWindowExistsHiddenWhileTheFormLoads) {
   open(form);
   EXPECT_NE(form.handleWhileLoading, 0U);
   EXPECT_EQ(form.handleWhileLoading, screen().windowOf(form));
-  EXPECT_EQ(textOf(find(form, "lblName")), L"loaded");
+  EXPECT_EQ(textOf(find(form, "lblName")), "loaded");
   EXPECT_TRUE(isShown(windowOf(form)));
 }
 
