@@ -15,8 +15,6 @@ namespace pelorin {
 namespace {
 
 constexpr UINT_PTR subclassId = 1;
-// Leads from the window to its object.
-constexpr const wchar_t* objectProperty = L"Pelorin.NativeWindow";
 constexpr std::int32_t outOfMemory = 7;
 
 // Not every refusal comes with a reason.
@@ -32,21 +30,23 @@ NativeWindow::~NativeWindow() {
   detach();
 }
 
+// A window is known by the procedure that it was given, which no other module of the process has: a
+// name would be shared with another copy of this code and lead to that copy's object.
 NativeWindow* NativeWindow::of(HWND window) noexcept {
-  return static_cast<NativeWindow*>(GetPropW(window, objectProperty));
+  DWORD_PTR address = 0;
+  if (GetWindowSubclass(window, &procedure, subclassId, &address) == 0) return nullptr;
+  return reinterpret_cast<NativeWindow*>(address);
 }
 
 void NativeWindow::attach(HWND window) {
   if (window == nullptr) throw refusedWindow(GetLastError());
   hwnd_ = window;
-  SetPropW(window, objectProperty, this);
   SetWindowSubclass(window, &procedure, subclassId, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void NativeWindow::detach() noexcept {
   const HWND window = std::exchange(hwnd_, nullptr);
   if (window == nullptr) return;
-  RemovePropW(window, objectProperty);
   RemoveWindowSubclass(window, &procedure, subclassId);
 }
 

@@ -17,7 +17,7 @@ class NativeWindow {
 
   // Null before it is made and after it is destroyed, by whomever.
   HWND hwnd() const noexcept { return hwnd_; }
-  // Null when the window is none of ours.
+  // Null when the window is none of this module's on the calling thread.
   static NativeWindow* of(HWND window) noexcept;
 
  protected:
