@@ -45,7 +45,6 @@ inline constexpr std::int32_t objectNotSet = 91;
 inline constexpr std::int32_t invalidPropertyValue = 380;
 inline constexpr std::int32_t invalidPicture = 481;
 inline constexpr std::int32_t lastNonFixedRow = 30015;
-inline constexpr std::int32_t parentNotFound = 35601;
 inline constexpr std::int32_t keyNotUnique = 35602;
 }  // namespace error_number
 

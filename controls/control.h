@@ -47,7 +47,6 @@ struct Change {
 class ControlView {
  public:
   virtual void modelChanged(const Change& change) = 0;
-  virtual void takeFocus() {}
 
  protected:
   ~ControlView() = default;

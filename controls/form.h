@@ -31,7 +31,6 @@ inline constexpr int down = 40;
 class FormView {
  public:
   virtual void captionChanged() = 0;
-  virtual void sizeChanged() = 0;
   // The form moved the focus to focused(), as pressing the default button does.
   virtual void focusMoved() {}
 

@@ -58,7 +58,6 @@ class ListView : public Control {
   // Removes every item for which `unwanted` answers true, walking from the last to the first.
   void removeIf(const std::function<bool(const ListItem&)>& unwanted);
   void clear();
-  bool hasKey(std::string_view key) const { return keys_.contains(std::string(key)); }
 
   void setChecked(int index, bool checked);
   void setAllChecked(bool checked);

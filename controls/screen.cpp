@@ -48,13 +48,6 @@ Screen::Owned* Screen::entryOf(const Form& form) {
   return found == owners_.end() ? nullptr : &*found;
 }
 
-Form* Screen::formOf(WindowHandle window) const {
-  const auto found = std::find_if(open_.begin(), open_.end(), [&](const Form* form) {
-    return window != 0 && windowOf(*form) == window;
-  });
-  return found == open_.end() ? nullptr : *found;
-}
-
 // A form that is just being unloaded does not count: its own turn has come.
 Form* Screen::lastOwnedBy(const Form& form) const {
   const WindowHandle window = windowOf(form);

@@ -42,7 +42,6 @@ class Screen {
 
   // In the order in which they were opened.
   const std::vector<Form*>& openForms() const noexcept { return open_; }
-  Form* formOf(WindowHandle window) const;
   // The window in front of all that the form owns, at whatever distance; null when it owns none.
   Form* innermostOwnedBy(const Form& form) const;
 

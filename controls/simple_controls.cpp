@@ -50,12 +50,6 @@ void TextBox::userText(const std::string& text) {
   storeText(text);
 }
 
-void TextBox::userType(const std::string& ascii) {
-  for (char c : ascii) {
-    if (userKey(static_cast<unsigned char>(c))) setText(text() + c);
-  }
-}
-
 void TextBox::userLeave() const {
   if (enabled() && onValidate) onValidate();
 }

@@ -65,8 +65,6 @@ class TextBox : public Control {
   bool userKey(char32_t key) const;
   // The view reports what the box holds now; nothing is echoed back to the view.
   void userText(const std::string& text);
-  // Types at the end, key by key, as a head-less operator.
-  void userType(const std::string& ascii);
   void userLeave() const;
 };
 

@@ -40,12 +40,6 @@ TreeNode* TreeView::tryAdd(TreeNode* parent, NodeTexts& texts) {
   return added;
 }
 
-TreeNode& TreeView::addUnder(std::string_view parentKey, NodeTexts texts) {
-  TreeNode* parent = find(parentKey);
-  if (parent == nullptr) throw RunTimeError(error_number::parentNotFound, "Element not found");
-  return add(parent, std::move(texts));
-}
-
 void TreeView::forget(const TreeNode& node) {
   for (const auto& child : node.children_) forget(*child);
   if (&node == selected_) selected_ = nullptr;

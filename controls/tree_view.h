@@ -60,8 +60,6 @@ class TreeView : public Control {
   TreeNode& add(TreeNode* parent, NodeTexts texts);
   // The same; null, and `texts` as it was, when the key is taken.
   TreeNode* tryAdd(TreeNode* parent, NodeTexts& texts);
-  // Adds as a child of the node with the key `parentKey`. Error 35601 when there is none.
-  TreeNode& addUnder(std::string_view parentKey, NodeTexts texts);
   // Removes the node with everything below it; the selection is lost with it, without an event.
   void remove(TreeNode& node);
   void clear();

@@ -18,7 +18,6 @@ class MhStretch {
   // In design mode everything keeps its design width, so that nothing moves under the hand of an
   // operator who edits captions.
   void setDesignMode(bool on) noexcept { designMode_ = on; }
-  bool designMode() const noexcept { return designMode_; }
 
   int width(int designWidth) const noexcept {
     if (designMode_) return designWidth;

@@ -75,15 +75,6 @@ std::vector<site::Argument> argumentsOf(const ProcedureCall& call) {
   return arguments;
 }
 
-std::string callText(const ProcedureCall& call) {
-  std::string text;
-  for (const ProcedureParameter& parameter : call.parameters) {
-    text += text.empty() ? "(" : ", ";
-    text += parameter.direction == ParameterDirection::Output ? "?" : toText(parameter.value);
-  }
-  return "{ call " + call.procedure + text + (text.empty() ? " }" : ") }");
-}
-
 // What ADO says of the record set that such a statement leaves.
 constexpr std::int32_t closedObject = 3704;
 constexpr const char* closedObjectText = "Operation is not allowed when the object is closed.";
@@ -105,36 +96,11 @@ class SiteConnection final : public Connection {
   std::shared_ptr<SiteSession> session_;
 };
 
-using Clock = std::chrono::steady_clock;
-
-void tell(const StatementObserver& observer, const std::string& text, Clock::time_point start,
-          const std::string& error) {
-  const auto took = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start);
-  if (observer) observer({text, took, error});
-}
-
 }  // namespace
 
 SiteSession::SiteSession(std::shared_ptr<site::Engine> engine) : engine_(std::move(engine)) {}
 
-template <class Work>
-SiteResult SiteSession::observed(const std::string& text, Work&& work) {
-  const Clock::time_point start = Clock::now();
-  try {
-    SiteResult result = work();
-    tell(observer_, text, start, "");
-    return result;
-  } catch (const RunTimeError& error) {
-    tell(observer_, text, start, error.description());
-    throw;
-  }
-}
-
 SiteResult SiteSession::run(std::string_view sql) {
-  return observed(std::string(sql), [&] { return runBatch(sql); });
-}
-
-SiteResult SiteSession::runBatch(std::string_view sql) {
   const site::Batch batch = site::readBatch(sql);
   if (const auto* text = std::get_if<site::EngineText>(&batch)) {
     return runStatement(EngineStatement(engine_, text->sql));
@@ -155,14 +121,12 @@ SiteResult SiteSession::runStatement(EngineStatement statement) {
 }
 
 SiteResult SiteSession::call(ProcedureCall& call) {
-  return observed(callText(call), [&]() -> SiteResult {
-    const Procedure& procedure = site::findProcedure(call.procedure);
-    const std::vector<Value> values = site::bindArguments(procedure, argumentsOf(call));
-    EngineStatement statement = prepareCall(engine_, procedure, values);
-    if (!hasOutputs(procedure)) return runStatement(std::move(statement));
-    takeOutputs(statement, procedure, call);
-    return {nullptr, engine_->changes()};
-  });
+  const Procedure& procedure = site::findProcedure(call.procedure);
+  const std::vector<Value> values = site::bindArguments(procedure, argumentsOf(call));
+  EngineStatement statement = prepareCall(engine_, procedure, values);
+  if (!hasOutputs(procedure)) return runStatement(std::move(statement));
+  takeOutputs(statement, procedure, call);
+  return {nullptr, engine_->changes()};
 }
 
 std::unique_ptr<Connection> connectionOver(std::shared_ptr<SiteSession> session) {

@@ -56,16 +56,6 @@ ComPtr<IDispatch> MemberCall::object(std::size_t index) const {
   return has(index) ? objectOf(argument(index)) : ComPtr<IDispatch>();
 }
 
-void MemberCall::writeBack(std::size_t index, std::int32_t number) const {
-  if (index >= count()) return;
-  const VARIANT& given = parameters_.rgvarg[count() - 1 - index];
-  if (given.vt == (VT_BYREF | VT_I4)) *given.plVal = number;
-  if (given.vt != (VT_BYREF | VT_VARIANT)) return;
-  VariantClear(given.pvarVal);
-  given.pvarVal->vt = VT_I4;
-  given.pvarVal->lVal = number;
-}
-
 ComPtr<IDispatch> objectOf(const VARIANT& variant) {
   switch (variant.vt) {
     case VT_DISPATCH:

@@ -35,9 +35,6 @@ class MemberCall {
   // Null when there is none.
   ComPtr<IDispatch> object(std::size_t index) const;
 
-  // Writes to an argument given by reference; nothing happens to one given by value.
-  void writeBack(std::size_t index, std::int32_t number) const;
-
  private:
   WORD flags_;
   const DISPPARAMS& parameters_;

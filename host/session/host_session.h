@@ -36,7 +36,6 @@ class HostSession {
 
   // Loads the component when it is not; RunTimeError when it cannot be loaded.
   void loadComponent();
-  bool isComponentLoaded() const noexcept { return component_ != nullptr; }
   // Opens the component's window, loading it first when needed.
   void raiseForm();
 

@@ -50,13 +50,6 @@ HWND makeControl(HWND parent, const wchar_t* className, const wchar_t* text, DWO
   return control;
 }
 
-std::wstring windowText(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-  const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
-  text.resize(static_cast<std::size_t>(length));
-  return text;
-}
-
 Window::~Window() {
   if (window_ != nullptr) DestroyWindow(window_);
 }

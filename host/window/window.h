@@ -47,8 +47,6 @@ HFONT controlFont();
 HWND makeControl(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style,
                  int command);
 
-std::wstring windowText(HWND window);
-
 inline constexpr wchar_t programTitle[] = L"Pelorin Host";
 
 }  // namespace pelorin::host

@@ -116,10 +116,6 @@ const KnownError controlErrors[] = {
      [](Surroundings&) {
        OneColumn().insert({{2, {}}});
      }},
-    {"parentMissing", 35601, "Element not found",
-     [](Surroundings&) {
-       TreeView(noParent, "tv", {}).addUnder("SA", {"LA1", "Server", "", 1});
-     }},
     {"keyOfAListTwice", 35602, "Key is not unique in collection",
      [](Surroundings&) {
        OneColumn list;

@@ -40,7 +40,6 @@ class ListeningFormView : public FormView {
  public:
   virtual ~ListeningFormView() = default;
   void captionChanged() override { ++captions; }
-  void sizeChanged() override {}
   void focusMoved() override { ++focusMoves; }
   int captions = 0;
   int focusMoves = 0;

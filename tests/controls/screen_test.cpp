@@ -161,13 +161,6 @@ TEST_F(Screens, SetOwnerGivesThePreviousOneBack) {
   EXPECT_EQ(screen.setOwner(picker, 5), 0U) << "a closed form has none";
 }
 
-TEST_F(Screens, FindsTheFormOfAWindow) {
-  openAll();
-  EXPECT_EQ(screen.formOf(screen.windowOf(editor)), &editor);
-  EXPECT_EQ(screen.formOf(0), nullptr);
-  EXPECT_EQ(screen.formOf(999999), nullptr);
-}
-
 TEST_F(Screens, ARetiredFormLivesUntilItIsCollected) {
   bool gone = false;
   struct Watched : Form {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/controls/listening_view.h"
+#include "tests/fakes/typing.h"
 
 namespace pelorin::test {
 
@@ -56,7 +57,7 @@ TEST(TextBox, AHandlerDiscardsACharacterByZero) {
   box.onKeyPress = [](char32_t& key) {
     if (key == 'x') key = 0;
   };
-  box.userType("axb");
+  typeInto(box, "axb");
   EXPECT_EQ(box.text(), "ab");
 }
 

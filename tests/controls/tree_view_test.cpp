@@ -20,8 +20,8 @@ class Nodes : public ::testing::Test {
  protected:
   void SetUp() override {
     tree.add(nullptr, node("root"));
-    tree.addUnder("root", node("child"));
-    tree.addUnder("child", node("leaf"));
+    tree.add(tree.find("root"), node("child"));
+    tree.add(tree.find("child"), node("leaf"));
     tree.onNodeClick = [this](const TreeNode& clicked) { clicks.push_back(clicked.key); };
     tree.onDoubleClick = [this] { ++doubleClicks; };
   }
@@ -48,19 +48,13 @@ TEST_F(Nodes, ATakenKeyIsAnErrorAndChangesNothing) {
   EXPECT_EQ(tree.find("leaf")->text, "text of leaf");
 }
 
-TEST_F(Nodes, AMissingParentIsAnError) {
-  EXPECT_EQ(errorNumberOf([&] { tree.addUnder("nobody", node("x")); }),
-            error_number::parentNotFound);
-  EXPECT_EQ(tree.find("x"), nullptr);
-}
-
 TEST_F(Nodes, RemovingTakesEverythingBelowAndTheSelectionWithoutAnEvent) {
   tree.setSelectedNode(tree.find("leaf"));
   tree.remove(*tree.find("child"));
   EXPECT_EQ(tree.count(), 1);
   EXPECT_EQ(tree.selectedNode(), nullptr);
   EXPECT_TRUE(clicks.empty());
-  tree.addUnder("root", node("leaf"));
+  tree.add(tree.find("root"), node("leaf"));
   EXPECT_EQ(tree.count(), 2);
 }
 

@@ -41,20 +41,25 @@ class FaultyCursor : public Cursor {
 
 }  // namespace
 
-std::unique_ptr<Cursor> FaultyConnection::openCursor(std::string_view sql) {
+void FaultyConnection::send(std::string_view statement) const {
   act(*acts_, *failing_);
+  if (onSent) onSent(statement);
+}
+
+std::unique_ptr<Cursor> FaultyConnection::openCursor(std::string_view sql) {
+  send(sql);
   RecordSet rows = inner_.open(sql);
   std::vector<std::string> columns = rows.columns();
   return std::make_unique<FaultyCursor>(std::move(rows), std::move(columns), acts_, failing_);
 }
 
 void FaultyConnection::run(std::string_view sql) {
-  act(*acts_, *failing_);
+  send(sql);
   inner_.execute(sql);
 }
 
 void FaultyConnection::call(ProcedureCall& procedure) {
-  act(*acts_, *failing_);
+  send(procedure.procedure);
   inner_.execute(procedure);
 }
 

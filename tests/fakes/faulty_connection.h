@@ -1,7 +1,9 @@
 // Passes everything on to another connection and lets the n-th act (a statement or a fetch) fail.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string_view>
 
 #include "database/connection.h"
 
@@ -19,12 +21,17 @@ class FaultyConnection : public Connection {
   // How many acts there were since failAct.
   int acts() const { return *acts_; }
 
+  // Told of every statement that does not fail, and of a procedure's name, before it is passed on.
+  std::function<void(std::string_view)> onSent;
+
  protected:
   std::unique_ptr<Cursor> openCursor(std::string_view sql) override;
   void run(std::string_view sql) override;
   void call(ProcedureCall& call) override;
 
  private:
+  void send(std::string_view statement) const;
+
   Connection& inner_;
   std::shared_ptr<int> acts_ = std::make_shared<int>(0);
   std::shared_ptr<int> failing_ = std::make_shared<int>(0);

@@ -41,18 +41,6 @@ std::vector<std::string> rowsOf(Connection& connection, const std::string& sql) 
   return found;
 }
 
-class FlagDuring {
- public:
-  FlagDuring(bool& flag, bool value) : flag_(flag), before_(std::exchange(flag, value)) {}
-  FlagDuring(const FlagDuring&) = delete;
-  FlagDuring& operator=(const FlagDuring&) = delete;
-  ~FlagDuring() { flag_ = before_; }
-
- private:
-  bool& flag_;
-  bool before_;
-};
-
 }  // namespace
 
 EditorJourney::EditorJourney() {
@@ -62,17 +50,16 @@ EditorJourney::EditorJourney() {
   services->texts = {{1677, "Call camera"}, {1675, "Raise alarm"}, {1821, "Acknowledge alarm"},
                      {2161, "<No preset>"}, {3553, "<No group>"},  {2835, "Added"}};
   environment.settings["C:\\Component\\CCTV\\PERIMETER.INI|UNSUPPORTED|Action3"] = "1";
-  site.session()->observe([this](const StatementRecord& statement) {
-    if (!watching_) return;
-    journal.add("sql: " + statement.text);
-    sent_.push_back({statement.text, database->acts()});
-  });
+  database->onSent = [this](std::string_view statement) {
+    journal.add("sql: " + std::string(statement));
+    sent_.push_back({std::string(statement), database->acts()});
+  };
   component.module().setNTConnection(services);
   component.module().setDBConnection(database);
 }
 
 EditorJourney::~EditorJourney() {
-  site.session()->observe({});
+  database->onSent = nullptr;
 }
 
 Form& EditorJourney::form(const std::string& name) const {
@@ -136,7 +123,6 @@ void EditorJourney::choose(const std::string& combo, const std::string& text) co
 }
 
 SiteRows EditorJourney::rows() const {
-  const FlagDuring unwatched(watching_, false);
   SiteRows found;
   for (const site::Table& table : site::siteSchema().tables()) {
     found[table.name] = rowsOf(*direct, tableQuery(table));

@@ -78,7 +78,6 @@ class EditorJourney {
     int act;
   };
   std::vector<Sent> sent_;
-  mutable bool watching_ = true;  // statements of the journey, not of a look at the rows
 };
 
 // Rows of `after` that `before` does not have, by table and in order; empty tables left out.

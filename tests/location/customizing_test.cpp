@@ -1,3 +1,4 @@
+#include "tests/fakes/typing.h"
 #include "tests/location/picker_fixture.h"
 
 namespace pelorin::test {
@@ -16,7 +17,7 @@ class CustomizingTest : public PickerTest {
   void end() { pick(1); }
   void type(const std::string& caption) {
     picker.txtCaption.setText("");
-    picker.txtCaption.userType(caption);
+    typeInto(picker.txtCaption, caption);
   }
   void edit(int button, const std::string& caption) {
     picker.userPress(picker.cmdMain[static_cast<std::size_t>(button)]);

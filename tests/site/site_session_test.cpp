@@ -208,23 +208,6 @@ TEST_F(Session, AnOpenResultOutlivesItsDatabase) {
   EXPECT_EQ(rows.text("Server_Name"), "HeadOffice");
 }
 
-TEST_F(Session, TheObserverHearsEveryStatementAndItsFailure) {
-  std::vector<std::string> heard;
-  site_.session()->observe([&heard](const StatementRecord& record) {
-    EXPECT_GE(record.took.count(), 0);
-    heard.push_back(record.text + (record.error.empty() ? "" : " -> " + record.error));
-  });
-  one("exec TA_FetchSummary");
-  failure("exec Nothing");
-  ProcedureCall call{
-      "TA_DeleteTrigger",
-      {{"TriggerID", ParameterType::Integer, ParameterDirection::Input, std::int64_t{4711}}}};
-  connection_->execute(call);
-  EXPECT_THAT(heard, ElementsAre("exec TA_FetchSummary",
-                                 "exec Nothing -> Could not find stored procedure 'Nothing'.",
-                                 "{ call TA_DeleteTrigger(4711) }"));
-}
-
 TEST_F(Session, ACommandWithTooFewParametersFails) {
   ProcedureCall call{"DVR_AddAction",
                      {{"DVRActionID", ParameterType::Integer, ParameterDirection::Output, Null{}}}};

@@ -66,7 +66,6 @@ class FormWindow final : public NativeWindow, public FormView {
   MSG takeKey(const MSG& key) noexcept;
 
   void captionChanged() override;
-  void sizeChanged() override;
   void focusMoved() override;
 
  protected:

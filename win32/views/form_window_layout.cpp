@@ -109,12 +109,6 @@ SIZE FormWindow::outerSize() const {
   return {widthOf(outer), heightOf(outer)};
 }
 
-void FormWindow::sizeChanged() {
-  if (form_ == nullptr || !presented_) return;
-  const SIZE size = outerSize();
-  SetWindowPos(hwnd(), nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 // The old fonts live until every control has its new one.
 void FormWindow::useResolution(int dpi) {
   dpi_ = dpi;

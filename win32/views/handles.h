@@ -41,9 +41,6 @@ struct CloseImageList {
 struct CloseHook {
   static void close(HHOOK hook) noexcept { UnhookWindowsHookEx(hook); }
 };
-struct CloseMemoryDc {
-  static void close(HDC dc) noexcept { DeleteDC(dc); }
-};
 struct CloseMenu {
   static void close(HMENU menu) noexcept { DestroyMenu(menu); }
 };
@@ -52,7 +49,6 @@ using Font = OwnedHandle<HFONT, CloseGdi>;
 using Bitmap = OwnedHandle<HBITMAP, CloseGdi>;
 using ImageList = OwnedHandle<HIMAGELIST, CloseImageList>;
 using Hook = OwnedHandle<HHOOK, CloseHook>;
-using MemoryDc = OwnedHandle<HDC, CloseMemoryDc>;
 using Menu = OwnedHandle<HMENU, CloseMenu>;
 
 // The device context of a window, or of the screen for null.

@@ -60,11 +60,6 @@ void Peer::markPending(Aspect aspect) {
   pending_ |= bit(aspect);
 }
 
-void Peer::takeFocus() {
-  ui().flush();
-  if (live_) window_.moveFocus(hwnd());
-}
-
 Peer::Aspects Peer::takePending() noexcept {
   return std::exchange(pending_, 0U);
 }

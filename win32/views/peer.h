@@ -26,7 +26,6 @@ class Peer : public NativeWindow, public ControlView {
   virtual void forget() noexcept;
 
   void modelChanged(const Change& change) final;
-  void takeFocus() final;
 
   // A set of aspects.
   using Aspects = unsigned;

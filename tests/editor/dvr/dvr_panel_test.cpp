@@ -1,6 +1,7 @@
 #include "editor/dvr/dvr_panel.h"
 
 #include "tests/editor/editor_site.h"
+#include "tests/fakes/typing.h"
 
 namespace pelorin::test {
 namespace {
@@ -197,7 +198,7 @@ TEST_F(DvrPanelTest, TheStoredRowIsClosedBeforeTheCombosAreRefilled) {
 
 TEST_F(DvrPanelTest, TypedLettersHaveNoEffect) {
   duration.setText("");
-  duration.userType("a1b-2 c");
+  typeInto(duration, "a1b-2 c");
   EXPECT_EQ(duration.text(), "12");
 }
 

@@ -24,10 +24,10 @@ void SampleForm::fillLists() {
   tvTree.add(nullptr, {"root", "Site", "", 1});
   for (int i = 0; i < 3; ++i) {
     const std::string folder = "folder" + std::to_string(i);
-    tvTree.addUnder("root", {folder, "Folder " + std::to_string(i), "", 2});
+    tvTree.add(tvTree.find("root"), {folder, "Folder " + std::to_string(i), "", 2});
     for (int j = 0; j < 4; ++j) {
-      tvTree.addUnder(folder,
-                      {folder + "." + std::to_string(j), "Door " + std::to_string(j), "0001", 3});
+      tvTree.add(tvTree.find(folder),
+                 {folder + "." + std::to_string(j), "Door " + std::to_string(j), "0001", 3});
     }
   }
   tvTree.expand(*tvTree.find("root"));

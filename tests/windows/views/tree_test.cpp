@@ -46,9 +46,9 @@ TEST_F(Tree, OnlyNodesThatCanBeSeenAreMade) {
 TEST_F(Tree, OfAHundredThousandNodesThoseInViewAreMade) {
   for (int i = 0; i < 1000; ++i) {
     const std::string folder = "f" + std::to_string(i);
-    form.tvTree.addUnder("root", {folder, folder, "", 1});
+    form.tvTree.add(form.tvTree.find("root"), {folder, folder, "", 1});
     for (int j = 0; j < 100; ++j) {
-      form.tvTree.addUnder(folder, {folder + "." + std::to_string(j), "x", "", 1});
+      form.tvTree.add(form.tvTree.find(folder), {folder + "." + std::to_string(j), "x", "", 1});
     }
   }
   openTree();
@@ -117,8 +117,8 @@ TEST_F(Tree, NodesAddedAndRemovedLaterAreFollowed) {
   expandByOperator(child(root(), 1));
   form.tvTree.remove(*form.tvTree.find("folder0"));
   form.tvTree.remove(*form.tvTree.find("folder1.2"));
-  form.tvTree.addUnder("folder1", {"late", "Late", "", 1});
-  form.tvTree.addUnder("root", {"last", "Last", "", 1});
+  form.tvTree.add(form.tvTree.find("folder1"), {"late", "Late", "", 1});
+  form.tvTree.add(form.tvTree.find("root"), {"last", "Last", "", 1});
   pump();
   EXPECT_EQ(driver::nodeText(tree, child(root(), 0)), "Folder 1");
   EXPECT_EQ(driver::nodeText(tree, child(root(), 2)), "Last");
@@ -130,7 +130,7 @@ TEST_F(Tree, NodesAddedAndRemovedLaterAreFollowed) {
 TEST_F(Tree, ANodeThatTakesTheKeyOfARemovedOneIsTheNewNode) {
   openTree();
   form.tvTree.remove(*form.tvTree.find("folder0"));
-  form.tvTree.addUnder("root", {"folder0", "Second life", "", 1});
+  form.tvTree.add(form.tvTree.find("root"), {"folder0", "Second life", "", 1});
   pump();
   clickItem(child(root(), 2));
   EXPECT_EQ(form.tvTree.selectedNode(), form.tvTree.find("folder0"));
