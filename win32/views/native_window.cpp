@@ -1,6 +1,7 @@
 #include "win32/views/native_window.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <utility>
 
@@ -30,23 +31,35 @@ NativeWindow::~NativeWindow() {
   detach();
 }
 
-// A window is known by the procedure that it was given, which no other module of the process has: a
-// name would be shared with another copy of this code and lead to that copy's object.
+// Leads from the window to its object. The procedure's address is this module's alone: a name
+// without it would be shared with another copy of this code in the process and lead to that copy's
+// object.
+const wchar_t* NativeWindow::objectProperty() noexcept {
+  struct Name {
+    std::array<wchar_t, 48> text{};
+    Name() noexcept {
+      wsprintfW(text.data(), L"Pelorin.NativeWindow.%Ix", reinterpret_cast<UINT_PTR>(&procedure));
+    }
+  };
+  static const Name name;
+  return name.text.data();
+}
+
 NativeWindow* NativeWindow::of(HWND window) noexcept {
-  DWORD_PTR address = 0;
-  if (GetWindowSubclass(window, &procedure, subclassId, &address) == 0) return nullptr;
-  return reinterpret_cast<NativeWindow*>(address);
+  return static_cast<NativeWindow*>(GetPropW(window, objectProperty()));
 }
 
 void NativeWindow::attach(HWND window) {
   if (window == nullptr) throw refusedWindow(GetLastError());
   hwnd_ = window;
+  SetPropW(window, objectProperty(), this);
   SetWindowSubclass(window, &procedure, subclassId, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void NativeWindow::detach() noexcept {
   const HWND window = std::exchange(hwnd_, nullptr);
   if (window == nullptr) return;
+  RemovePropW(window, objectProperty());
   RemoveWindowSubclass(window, &procedure, subclassId);
 }
 

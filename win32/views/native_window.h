@@ -17,7 +17,7 @@ class NativeWindow {
 
   // Null before it is made and after it is destroyed, by whomever.
   HWND hwnd() const noexcept { return hwnd_; }
-  // Null when the window is none of this module's on the calling thread.
+  // Null when the window is none of this module's.
   static NativeWindow* of(HWND window) noexcept;
 
  protected:
@@ -32,6 +32,7 @@ class NativeWindow {
   LRESULT native(UINT message, WPARAM w, LPARAM l) const noexcept;
 
  private:
+  static const wchar_t* objectProperty() noexcept;
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR id,
                                     DWORD_PTR self) noexcept;
   LRESULT dispatch(UINT message, WPARAM w, LPARAM l);
