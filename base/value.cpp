@@ -93,10 +93,6 @@ std::int32_t parseInt32(std::string_view text) {
   return narrow<std::int32_t>(roundToInt64(parseNumber(text)));
 }
 
-std::int16_t parseInt16(std::string_view text) {
-  return narrow<std::int16_t>(roundToInt64(parseNumber(text)));
-}
-
 std::int32_t narrowInt32(std::int64_t number) {
   return narrow<std::int32_t>(number);
 }

@@ -49,7 +49,6 @@ std::string eventNumberText(std::int32_t eventId);
 double parseNumber(std::string_view text);
 // The same, rounded; error 6 when beyond the width.
 std::int32_t parseInt32(std::string_view text);
-std::int16_t parseInt16(std::string_view text);
 
 // Error 6 when the number does not fit.
 std::int32_t narrowInt32(std::int64_t number);

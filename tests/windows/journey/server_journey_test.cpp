@@ -1,6 +1,7 @@
 // A played request over a server, which is a connection of the test's own in ODBC's place.
 #include <gmock/gmock.h>
 
+#include "driver/find_window.h"
 #include "host/core/embedded_connection.h"
 #include "host/play/played_request.h"
 #include "site/site_database.h"
