@@ -64,14 +64,18 @@ def all_programs():
 
 
 def plan_for(words):
-    """A word that names a program or a rule stands for all of it; any other for the cases whose name contains it."""
+    """A word that names a program or a rule stands for all of it; any other for the cases whose name contains it.
+
+    A program's name in full is that program alone, though other names may begin with it.
+    """
     subprocess.run([ROOT / "tools/build", "--configure", *PRESETS.values()], check=True)
     programs = list(all_programs())
     rules = house_rules()
     whole, single = {}, {}
     wanted_rules = []
     for word in map(str.lower, words):
-        named = [program for program in programs if word in program.name]
+        named = ([program for program in programs if word == program.name] or
+                 [program for program in programs if word in program.name])
         ruled = [name for name in rules if word in name]
         wanted_rules += ruled
         whole |= {program.name: program for program in named}
