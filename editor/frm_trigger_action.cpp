@@ -1,6 +1,5 @@
 #include "editor/frm_trigger_action.h"
 
-#include <ranges>
 #include <utility>
 
 #include "base/flag_while.h"
@@ -112,9 +111,9 @@ void frmTriggerAction::placePanels() {
 // to be whole.
 bool frmTriggerAction::loadPanels(std::int32_t actionId, std::int32_t deviceClass) {
   bool whole = true;
-  for (const auto& panel : std::views::reverse(panels_)) {
-    const bool read = panel->load(actionId);
-    if (panel->deviceClass() == deviceClass) whole = read;
+  for (auto panel = panels_.rbegin(); panel != panels_.rend(); ++panel) {
+    const bool read = (*panel)->load(actionId);
+    if ((*panel)->deviceClass() == deviceClass) whole = read;
   }
   return whole;
 }

@@ -44,8 +44,8 @@ FieldControl mark(CheckBox& box);
 FieldControl narrow(FieldControl control);
 
 struct PanelField {
-  int argument;        // position in the statements that write the action
-  const char* column;  // of the stored action
+  int argument = 0;         // position in the statements that write the action
+  const char* column = "";  // of the stored action
   FieldControl control;
   const char* parameter = nullptr;  // where it is not named as the column is
 };
