@@ -2,9 +2,9 @@
 // the same rows with nothing done to them.
 #include <benchmark/benchmark.h>
 
-#include <chrono>
 #include <optional>
 
+#include "benches/stopwatch.h"
 #include "editor/frm_trigger_action.h"
 #include "tests/fakes/surroundings.h"
 
@@ -50,13 +50,6 @@ std::size_t readAll(Connection& database) {
     while (rows.next()) ++read;
   }
   return read;
-}
-
-template <class Work>
-double secondsOf(Work&& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 struct Editor {

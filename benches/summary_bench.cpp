@@ -2,8 +2,7 @@
 // is the summary's own, whatever machine it is measured on.
 #include <benchmark/benchmark.h>
 
-#include <chrono>
-
+#include "benches/stopwatch.h"
 #include "summary/frm_ta_summary.h"
 #include "tests/fakes/surroundings.h"
 
@@ -68,13 +67,6 @@ std::size_t bareStatements(Connection& database) {
     read += readAll(database, dvrNameQuery(action));
   }
   return read;
-}
-
-template <class Work>
-double secondsOf(Work&& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 void loadSummary(benchmark::State& state) {

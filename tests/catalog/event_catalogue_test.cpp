@@ -1,6 +1,7 @@
 #include "catalog/event_catalogue.h"
 
 #include "tests/catalog/catalogue_fixture.h"
+#include "tests/fakes/lookups.h"
 
 namespace pelorin::test {
 namespace {
@@ -174,11 +175,6 @@ class FilterListTest : public CatalogueTest {
                                     {std::int64_t{8}, "Zorn"},
                                     {std::int64_t{12}, "Zorn system"}}});
   }
-  std::vector<std::string> texts() const {
-    std::vector<std::string> found;
-    for (int i = 0; i < list.listCount(); ++i) found.push_back(list.row(i).text);
-    return found;
-  }
 
   ListBox list{noParent, "lstEventFilters", {}};
 };
@@ -191,13 +187,13 @@ TEST_F(FilterListTest, AsksTheHostThenTheDatabase) {
 
 TEST_F(FilterListTest, FiltersAboveSevenNeedTheNewerHardware) {
   catalogue.LoadFilterList(list);
-  EXPECT_THAT(texts(), ElementsAre("Door Events", "System Events"));
+  EXPECT_THAT(texts(list), ElementsAre("Door Events", "System Events"));
 }
 
 TEST_F(FilterListTest, NewerHardwareOffersAllWithTheirNumbers) {
   services.newerHardware = true;
   EXPECT_TRUE(catalogue.LoadFilterList(list));
-  EXPECT_THAT(texts(),
+  EXPECT_THAT(texts(list),
               ElementsAre("Door Events", "System Events", "Zorn Events", "Zorn system Events"));
   EXPECT_EQ(list.row(1).itemData, 7);
   EXPECT_EQ(list.row(3).itemData, 12);
@@ -223,7 +219,7 @@ TEST_F(FilterListTest, FailingFetchKeepsTheRowsAddedSoFar) {
   database.failFetch(filtersQuery, 1);
   EXPECT_FALSE(catalogue.LoadFilterList(list));
   EXPECT_THAT(boxes(), SizeIs(1));
-  EXPECT_THAT(texts(), ElementsAre("Door Events"));
+  EXPECT_THAT(texts(list), ElementsAre("Door Events"));
   EXPECT_EQ(database.openCursors(), 0);
 }
 

@@ -5,12 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <stdexcept>
 #include <string>
 
 #include "component/component.h"
-#include "controls/grid.h"
 #include "site/site_database.h"
+#include "tests/fakes/lookups.h"
 #include "tests/fakes/surroundings.h"
 #include "tests/site/fresh_site.h"
 
@@ -43,7 +42,7 @@ class FailingScreen : public RecordingScreen {
   }
 };
 
-struct ComponentTest : ::testing::Test {
+struct ComponentTest : ::testing::Test, OpenForms {
   static constexpr WindowHandle hostWindow = 0x77;
 
   Journal journal;
@@ -54,26 +53,12 @@ struct ComponentTest : ::testing::Test {
   std::shared_ptr<Connection> database = site.connect();
   Component component{screen, environment};
 
-  ComponentTest() {
+  ComponentTest() : OpenForms(screen) {
     component.module().setNTConnection(services);
     component.module().setDBConnection(database);
   }
 
-  Form& form(const std::string& name) {
-    Form* open = screen.open<Form>(name);
-    if (open == nullptr) throw std::logic_error(name + " is not open");
-    return *open;
-  }
-  template <class ControlType>
-  ControlType& control(const std::string& formName, const std::string& name) {
-    auto* found = dynamic_cast<ControlType*>(form(formName).find(name));
-    if (found == nullptr) throw std::logic_error("no control " + name);
-    return *found;
-  }
-  Grid& grid() { return control<Grid>("frmTASummary", "MSFlexGrid1"); }
-  void press(const std::string& formName, const std::string& button) {
-    form(formName).userPress(control<Button>(formName, button));
-  }
+  Grid& grid() { return on<Grid>("frmTASummary", "MSFlexGrid1"); }
   std::vector<std::string> openForms() const {
     std::vector<std::string> names;
     for (const Form* open : screen.openForms()) names.push_back(open->name());

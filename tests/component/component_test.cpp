@@ -137,8 +137,8 @@ TEST_F(RaiseForm, WithoutConnectionReportsAndShowsAnEmptySummary) {
   component.RaiseForm(hostWindow);
   EXPECT_THAT(screen.boxTexts(), Contains(HasSubstr("Object variable or With block variable")));
   EXPECT_EQ(grid().rows(), 1);
-  EXPECT_FALSE(control<Button>("frmTASummary", "cmdAddEdit(1)").enabled());
-  EXPECT_FALSE(control<Button>("frmTASummary", "cmdDelete").enabled());
+  EXPECT_FALSE(on<Button>("frmTASummary", "cmdAddEdit(1)").enabled());
+  EXPECT_FALSE(on<Button>("frmTASummary", "cmdDelete").enabled());
 }
 
 TEST_F(RaiseForm, MakesItsOwnerTheOwnerOfBoxesUnlessItHasNone) {
@@ -248,11 +248,11 @@ TEST_F(Windows, PickerOpensInTheModeOfTheButton) {
   component.RaiseForm(hostWindow);
   press("frmTASummary", "cmdAddEdit(0)");
   press("frmTriggerAction", "cmdAddLocation");
-  EXPECT_EQ(control<Button>("FLocation", "cmdMain(1)").text(), "Close");
+  EXPECT_EQ(on<Button>("FLocation", "cmdMain(1)").text(), "Close");
   form("frmTriggerAction").unload();
   press("frmTASummary", "cmdAddEdit(1)");
   press("frmTriggerAction", "cmdSingleLocation");
-  EXPECT_EQ(control<Button>("FLocation", "cmdMain(1)").text(), "Cancel");
+  EXPECT_EQ(on<Button>("FLocation", "cmdMain(1)").text(), "Cancel");
 }
 
 TEST_F(Windows, PickingWhileThePickerIsOpenBringsItToTheFront) {

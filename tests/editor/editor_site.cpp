@@ -164,10 +164,7 @@ void EditorTest::checkEvents(std::initializer_list<int> rows) {
 
 void EditorTest::chooseClass(std::int32_t deviceClass) {
   control<TabControl>("SSTab1").setTab(1);
-  ComboBox& classes = combo("cmbActionDeviceClass");
-  for (int row = 0; row < classes.listCount(); ++row) {
-    if (classes.row(row).itemData == deviceClass) classes.userSelect(row);
-  }
+  chooseData(combo("cmbActionDeviceClass"), deviceClass);
 }
 
 std::vector<std::string> EditorTest::writes() const {
@@ -178,20 +175,6 @@ std::vector<std::string> EditorTest::writes() const {
                          line.find("DVR_AddAction") != std::string::npos ||
                          line.find("DVR_UpdateAction") != std::string::npos;
     if (writing || line.starts_with("host: LogEvent") || line == "reload") found.push_back(line);
-  }
-  return found;
-}
-
-std::vector<std::string> texts(const ComboBox& combo) {
-  std::vector<std::string> found;
-  for (int row = 0; row < combo.listCount(); ++row) found.push_back(combo.row(row).text);
-  return found;
-}
-
-std::vector<std::string> numbers(const ListView& events) {
-  std::vector<std::string> found;
-  for (int row = 1; row <= events.count(); ++row) {
-    found.push_back(events.item(row).subItems.front());
   }
   return found;
 }

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "editor/frm_trigger_action.h"
+#include "tests/fakes/lookups.h"
 #include "tests/fakes/surroundings.h"
 
 namespace pelorin::test {
@@ -28,7 +29,7 @@ struct EditorSite : Surroundings {
 };
 
 // The form over that site; closed at the end.
-class EditorTest : public ::testing::Test, protected EditorSite {
+class EditorTest : public ::testing::Test, protected EditorSite, protected OneForm {
  protected:
   EditorTest() = default;
   ~EditorTest() override { screen.unloadAll(); }
@@ -37,16 +38,7 @@ class EditorTest : public ::testing::Test, protected EditorSite {
   frmTriggerAction& editCctv(int id = 5) { return openEditor({id, device_class::cctv}); }
   frmTriggerAction& editDvr(int id = 8) { return openEditor({id, device_class::dvr}); }
 
-  template <class ControlType>
-  ControlType& control(const std::string& name) {
-    auto* found = dynamic_cast<ControlType*>(editor->find(name));
-    if (found == nullptr) throw std::logic_error("no control " + name);
-    return *found;
-  }
-  ComboBox& combo(const std::string& name) { return control<ComboBox>(name); }
-  TextBox& textBox(const std::string& name) { return control<TextBox>(name); }
-  Button& button(const std::string& name) { return control<Button>(name); }
-
+  Form& tested() override { return *editor; }
   void addLocations(int count);
   void tickFilter(int row);
   void checkEvents(std::initializer_list<int> rows);
@@ -59,9 +51,5 @@ class EditorTest : public ::testing::Test, protected EditorSite {
   bool reloadFails = false;
   std::vector<std::string> pickerModes;
 };
-
-std::vector<std::string> texts(const ComboBox& combo);
-// Sub-item 1 of each row.
-std::vector<std::string> numbers(const ListView& events);
 
 }  // namespace pelorin::test

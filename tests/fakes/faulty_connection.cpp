@@ -6,25 +6,24 @@ namespace pelorin::test {
 
 namespace {
 
-void act(int& acts, int failing) {
-  if (++acts == failing) throw RunTimeError(-2147467259, "The connection is broken.");
+// An error of the inner connection gets the line of who called the outer one.
+constexpr SourceLine unknownLine;
+
+void countAct(Faults& faults) {
+  if (faults.nextFails()) throw RunTimeError(-2147467259, "The connection is broken.");
 }
 
 class FaultyCursor : public Cursor {
  public:
-  FaultyCursor(RecordSet inner, std::vector<std::string> columns, std::shared_ptr<int> acts,
-               std::shared_ptr<int> failing)
-      : inner_(std::move(inner)),
-        columns_(std::move(columns)),
-        acts_(std::move(acts)),
-        failing_(std::move(failing)) {}
+  FaultyCursor(RecordSet inner, std::shared_ptr<Faults> faults)
+      : inner_(std::move(inner)), columns_(inner_.columns()), faults_(std::move(faults)) {}
 
   const std::vector<std::string>& columns() const override { return columns_; }
 
   std::size_t fetch(std::size_t rows, std::vector<Value>& cells) override {
-    act(*acts_, *failing_);
+    countAct(*faults_);
     std::size_t fetched = 0;
-    for (; fetched < rows && inner_.next(); ++fetched) {
+    for (; fetched < rows && inner_.next(unknownLine); ++fetched) {
       for (std::size_t i = 0; i < columns_.size(); ++i) {
         cells.push_back(inner_.value(static_cast<int>(i)));
       }
@@ -35,32 +34,32 @@ class FaultyCursor : public Cursor {
  private:
   RecordSet inner_;
   std::vector<std::string> columns_;
-  std::shared_ptr<int> acts_;
-  std::shared_ptr<int> failing_;
+  std::shared_ptr<Faults> faults_;
 };
 
 }  // namespace
 
 void FaultyConnection::send(std::string_view statement) const {
-  act(*acts_, *failing_);
+  countAct(*faults_);
+  if (!refused_.empty() && statement.starts_with(refused_)) {
+    throw RunTimeError(-2147217911, "Permission denied.");
+  }
   if (onSent) onSent(statement);
 }
 
 std::unique_ptr<Cursor> FaultyConnection::openCursor(std::string_view sql) {
   send(sql);
-  RecordSet rows = inner_.open(sql);
-  std::vector<std::string> columns = rows.columns();
-  return std::make_unique<FaultyCursor>(std::move(rows), std::move(columns), acts_, failing_);
+  return std::make_unique<FaultyCursor>(inner_.open(sql, unknownLine), faults_);
 }
 
 void FaultyConnection::run(std::string_view sql) {
   send(sql);
-  inner_.execute(sql);
+  inner_.execute(sql, unknownLine);
 }
 
 void FaultyConnection::call(ProcedureCall& procedure) {
   send(procedure.procedure);
-  inner_.execute(procedure);
+  inner_.execute(procedure, unknownLine);
 }
 
 }  // namespace pelorin::test

@@ -1,11 +1,13 @@
-// Passes everything on to another connection and lets the n-th act (a statement or a fetch) fail.
+// Passes everything on to another connection and lets acts (statements and fetches) fail.
 #pragma once
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "database/connection.h"
+#include "tests/fakes/faults.h"
 
 namespace pelorin::test {
 
@@ -13,13 +15,11 @@ class FaultyConnection : public Connection {
  public:
   explicit FaultyConnection(Connection& inner) : inner_(inner) {}
 
-  // Counted from 1 from now on; 0 lets nothing fail.
-  void failAct(int number) {
-    *acts_ = 0;
-    *failing_ = number;
-  }
+  void failAct(int number, Lasting lasting = Lasting::Once) { faults_->fail(number, lasting); }
   // How many acts there were since failAct.
-  int acts() const { return *acts_; }
+  int acts() const { return faults_->acts(); }
+  // Every statement and procedure that begins like this is refused from now on.
+  void refuse(const std::string& beginning) { refused_ = beginning; }
 
   // Told of every statement that does not fail, and of a procedure's name, before it is passed on.
   std::function<void(std::string_view)> onSent;
@@ -33,8 +33,9 @@ class FaultyConnection : public Connection {
   void send(std::string_view statement) const;
 
   Connection& inner_;
-  std::shared_ptr<int> acts_ = std::make_shared<int>(0);
-  std::shared_ptr<int> failing_ = std::make_shared<int>(0);
+  std::string refused_;
+  // Its cursors may outlive it.
+  std::shared_ptr<Faults> faults_ = std::make_shared<Faults>();
 };
 
 }  // namespace pelorin::test

@@ -6,12 +6,11 @@ namespace pelorin::test {
 
 void RecordingServices::called(const std::string& member, const std::string& arguments) {
   journal_.add("host: " + member + arguments);
-  ++calls_;
+  const bool fails = faults_.nextFails();
   // It may set another one, or none.
   const auto during = duringCall;
   if (during) during(member);
-  if (calls_ == failingCall_ || failing.contains(member))
-    throw RunTimeError(-2147352567, member + " failed");
+  if (fails || failing.contains(member)) throw RunTimeError(-2147352567, member + " failed");
 }
 
 std::string RecordingServices::callGetResourceString(std::int32_t id) {

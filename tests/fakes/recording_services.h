@@ -7,6 +7,7 @@
 #include <string>
 
 #include "common/host_services.h"
+#include "tests/fakes/faults.h"
 #include "tests/fakes/journal.h"
 
 namespace pelorin::test {
@@ -26,13 +27,9 @@ class RecordingServices : public HostServices {
   std::set<std::string> failing;
   // Runs inside each call, as a host that handles messages meanwhile; given the member's name.
   std::function<void(const std::string& member)> duringCall;
-  // The n-th call from now on fails; 0 lets none fail.
-  void failCall(int number) {
-    calls_ = 0;
-    failingCall_ = number;
-  }
+  void failCall(int number, Lasting lasting = Lasting::Once) { faults_.fail(number, lasting); }
   // How many calls there were since failCall.
-  int calls() const { return calls_; }
+  int calls() const { return faults_.acts(); }
 
  protected:
   std::string callGetResourceString(std::int32_t id) override;
@@ -48,8 +45,7 @@ class RecordingServices : public HostServices {
   void called(const std::string& member, const std::string& arguments);
 
   Journal& journal_;
-  int calls_ = 0;
-  int failingCall_ = 0;
+  Faults faults_;
 };
 
 }  // namespace pelorin::test

@@ -23,10 +23,7 @@ void chooseDoorsAndEvents(EditorJourney& journey) {
 
 // By its number: a name that the host could not give is empty.
 void raiseAlarm(EditorJourney& journey) {
-  auto& actions = journey.inEditor<ComboBox>("cmbCCTVActions");
-  for (int row = 0; row < actions.listCount(); ++row) {
-    if (actions.row(row).itemData == cctv_action::raiseAlarm) return actions.userSelect(row);
-  }
+  chooseData(journey.inEditor<ComboBox>("cmbCCTVActions"), cctv_action::raiseAlarm);
 }
 
 // Without the number that the database gave the row, and of an alarm without camera, monitor and
@@ -77,6 +74,21 @@ const std::vector<EditorScript>& editorScripts() {
        },
        true}};
   return scripts;
+}
+
+// A fault that lasts is met again, and a storm of reports goes to the log alone.
+void ScriptWithFaults::expectCounts(int failing, const std::vector<BoxRequest>& boxes,
+                                    std::size_t logLines) {
+  const auto critical = std::count_if(boxes.begin(), boxes.end(), [](const BoxRequest& box) {
+    return box.icon == BoxIcon::Critical;
+  });
+  if (lasting() == Lasting::Once) {
+    EXPECT_EQ(failing, 1);
+    EXPECT_EQ(static_cast<std::size_t>(critical), logLines) << "a line in the log for each report";
+  } else {
+    EXPECT_GE(failing, 1);
+    EXPECT_GE(logLines, static_cast<std::size_t>(failing));
+  }
 }
 
 void expectRowsOfScript(const EditorScript& script, const SiteRows& whole,

@@ -3,28 +3,25 @@
 #include <cstdlib>
 #include <new>
 
+#include "tests/fakes/faults.h"
+
 namespace pelorin::test {
 
 namespace {
 
-thread_local int allocationsLeft = 0;
+thread_local Faults allocations;
 thread_local bool allocationFailed = false;
-
-bool allocationFailsNow() noexcept {
-  if (allocationsLeft == 0 || --allocationsLeft > 0) return false;
-  allocationFailed = true;
-  return true;
-}
 
 }  // namespace
 
 FailingMemory::FailingMemory(int number) noexcept {
   allocationFailed = false;
-  allocationsLeft = number;
+  allocations.fail(number);
 }
 
 FailingMemory::~FailingMemory() {
-  allocationsLeft = 0;
+  allocationFailed = allocations.happened();
+  allocations.fail(0);
 }
 
 bool FailingMemory::failed() noexcept {
@@ -35,13 +32,14 @@ bool FailingMemory::failed() noexcept {
 
 // The array and sized forms of the language end in these.
 void* operator new(std::size_t size) {
-  void* memory = pelorin::test::allocationFailsNow() ? nullptr : std::malloc(size == 0 ? 1 : size);
+  void* memory =
+      pelorin::test::allocations.nextFails() ? nullptr : std::malloc(size == 0 ? 1 : size);
   if (memory == nullptr) throw std::bad_alloc();
   return memory;
 }
 
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-  return pelorin::test::allocationFailsNow() ? nullptr : std::malloc(size == 0 ? 1 : size);
+  return pelorin::test::allocations.nextFails() ? nullptr : std::malloc(size == 0 ? 1 : size);
 }
 
 void operator delete(void* memory) noexcept {

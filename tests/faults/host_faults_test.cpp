@@ -1,5 +1,6 @@
-// Every call of the host in the editor's journeys fails once, each in a journey of its own over a
-// fresh site: one report under the right name, and no row that should not be there.
+// Every call of the host in the editor's journeys fails, alone or with all after it, each in a
+// journey of its own over a fresh site: reports under the right names, and no row that should not
+// be there.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -12,7 +13,6 @@ namespace pelorin::test {
 namespace {
 
 using ::testing::Contains;
-using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -32,7 +32,7 @@ const std::map<std::string, std::set<std::string>> reportersOfMember = {
       "frmTriggerAction.SaveDVRTriggerAction",
       "frmTriggerAction.GenerateTriggerActonForEventsAtThisLocation"}}};
 
-class HostFaults : public ::testing::TestWithParam<EditorScript> {
+class HostFaults : public ScriptWithFaults {
  protected:
   struct Outcome {
     SiteRows written;
@@ -50,9 +50,9 @@ class HostFaults : public ::testing::TestWithParam<EditorScript> {
     journey.openSummary();
     const SiteRows before = journey.rows();
     journey.journal.clear();
-    journey.services->failCall(failingCall);
-    GetParam().open(journey);
-    GetParam().act(journey);
+    journey.services->failCall(failingCall, lasting());
+    script().open(journey);
+    script().act(journey);
     journey.press("cmdApply");
     Outcome outcome;
     outcome.written = added(before, journey.rows());
@@ -67,24 +67,32 @@ class HostFaults : public ::testing::TestWithParam<EditorScript> {
     return outcome;
   }
 
-  // One report of the failing call; others only of lists that could not be filled because of it.
-  static void expectOneReport(const Outcome& outcome, const std::string& member) {
-    int failed = 0;
-    std::size_t critical = 0;
+  // The member that a report says has failed; empty when it says something else.
+  static std::string failedMember(const std::string& report) {
+    const std::string end = " failed";
+    const std::size_t begin = report.rfind(" :");
+    if (!report.ends_with(end) || begin == std::string::npos) return "";
+    return report.substr(begin + 2, report.size() - end.size() - begin - 2);
+  }
+
+  // Reports of failing calls; others only of lists that could not be filled because of them.
+  static void expectReports(const Outcome& outcome, const std::string& firstMember) {
+    std::vector<std::string> failed;
     for (const BoxRequest& box : outcome.boxes) {
-      if (box.icon != BoxIcon::Critical) continue;
-      ++critical;
-      if (!box.text.ends_with(" :" + member + " failed")) {
+      if (box.icon != BoxIcon::Critical || countsReports(box)) continue;
+      const std::string member = failedMember(box.text);
+      if (member.empty()) {
         EXPECT_THAT(box.text, HasSubstr(" :Nothing is selected: "));
         continue;
       }
-      ++failed;
+      failed.push_back(member);
       EXPECT_THAT(reportersOfMember.at(member),
                   Contains(box.text.substr(0, box.text.find(": Line: "))));
       EXPECT_THAT(box.text, Not(HasSubstr(": Line: 0 :")));
     }
-    EXPECT_EQ(failed, 1);
-    EXPECT_EQ(critical, outcome.logLines);
+    ASSERT_FALSE(failed.empty());
+    EXPECT_EQ(failed.front(), firstMember);
+    expectCounts(static_cast<int>(failed.size()), outcome.boxes, outcome.logLines);
   }
 
   // The row that could not be announced stands; nothing was written or announced after it.
@@ -93,12 +101,12 @@ class HostFaults : public ::testing::TestWithParam<EditorScript> {
     EXPECT_EQ(outcome.audits.size(), failingAudit);
     EXPECT_FALSE(outcome.reloaded);
     const std::size_t perAudit = rowCount(whole.written) / whole.audits.size();
-    const std::size_t afterItsAudit = GetParam().raisesAlarm ? 1 : 0;
+    const std::size_t afterItsAudit = script().raisesAlarm ? 1 : 0;
     EXPECT_EQ(rowCount(outcome.written), failingAudit * perAudit - afterItsAudit);
   }
 };
 
-TEST_P(HostFaults, AreReportedOnceAndLeaveNoWrongRow) {
+TEST_P(HostFaults, AreReportedAndLeaveNoWrongRow) {
   const Outcome whole = run(0);
   ASSERT_TRUE(whole.boxes.empty()) << whole.boxes.front().text;
   ASSERT_TRUE(whole.reloaded);
@@ -111,10 +119,10 @@ TEST_P(HostFaults, AreReportedOnceAndLeaveNoWrongRow) {
     SCOPED_TRACE("call " + std::to_string(n) + ": " + member);
     const Outcome outcome = run(static_cast<int>(n));
     EXPECT_TRUE(outcome.open);
-    expectOneReport(outcome, member);
-    expectRowsOfScript(GetParam(), whole.written, outcome.written);
+    expectReports(outcome, member);
+    expectRowsOfScript(script(), whole.written, outcome.written);
     if (member == "LogEvent") expectStoppedAtAudit(outcome, whole, ++audits);
-    if (member == "GetResourceString") {
+    if (member == "GetResourceString" && lasting() == Lasting::Once) {
       EXPECT_EQ(outcome.written, whole.written);
       EXPECT_TRUE(outcome.reloaded);
     }
@@ -123,8 +131,7 @@ TEST_P(HostFaults, AreReportedOnceAndLeaveNoWrongRow) {
   EXPECT_EQ(audits, whole.audits.size());
 }
 
-INSTANTIATE_TEST_SUITE_P(Journeys, HostFaults, ::testing::ValuesIn(editorScripts()),
-                         [](const auto& script) { return script.param.name; });
+PELORIN_SCRIPTS_WITH_FAULTS(HostFaults);
 
 }  // namespace
 }  // namespace pelorin::test

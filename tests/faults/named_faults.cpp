@@ -11,56 +11,6 @@
 
 namespace pelorin::test {
 
-class NamedFaults::RefusingConnection : public Connection {
- public:
-  explicit RefusingConnection(Connection& inner) : inner_(inner) {}
-  void refuse(std::string beginning) { beginning_ = std::move(beginning); }
-
- protected:
-  std::unique_ptr<Cursor> openCursor(std::string_view sql) override;
-  void run(std::string_view sql) override {
-    look(sql);
-    inner_.execute(sql);
-  }
-  void call(ProcedureCall& call) override {
-    look(call.procedure);
-    inner_.execute(call);
-  }
-
- private:
-  class Rows;
-
-  void look(std::string_view sql) const {
-    if (beginning_.empty() || !sql.starts_with(beginning_)) return;
-    throw RunTimeError(-2147217911, "Permission denied.");
-  }
-
-  Connection& inner_;
-  std::string beginning_;
-};
-
-class NamedFaults::RefusingConnection::Rows : public Cursor {
- public:
-  explicit Rows(RecordSet rows) : rows_(std::move(rows)), columns_(rows_.columns()) {}
-  const std::vector<std::string>& columns() const override { return columns_; }
-  std::size_t fetch(std::size_t count, std::vector<Value>& cells) override {
-    std::size_t fetched = 0;
-    for (; fetched < count && rows_.next(); ++fetched) {
-      for (int i = 0; i < static_cast<int>(columns_.size()); ++i) cells.push_back(rows_.value(i));
-    }
-    return fetched;
-  }
-
- private:
-  RecordSet rows_;
-  std::vector<std::string> columns_;
-};
-
-std::unique_ptr<Cursor> NamedFaults::RefusingConnection::openCursor(std::string_view sql) {
-  look(sql);
-  return std::make_unique<Rows>(inner_.open(sql));
-}
-
 class NamedFaults::RefusingView final : public ControlView {
  public:
   RefusingView(Aspect aspect, std::function<bool()> when)
@@ -76,15 +26,13 @@ class NamedFaults::RefusingView final : public ControlView {
   bool refused_ = false;
 };
 
-NamedFaults::NamedFaults() : refusing_(std::make_shared<RefusingConnection>(*direct)) {
-  component.module().setDBConnection(refusing_);
+NamedFaults::NamedFaults() {
   services->texts[1843] = "Dial-Up";
   environment.pictures["C:\\Component\\Graphics\\pcDetail.bmp"] = stripPicture(69);
   screen.beforeAct = [this](const std::string& act, Form* form) {
     if (act == "create") attachViews(*form);
     const auto counted = acts_.find(act);
-    if (counted == acts_.end() || --counted->second != 0) return;
-    acts_.erase(counted);
+    if (counted == acts_.end() || !counted->second.nextFails()) return;
     throw RunTimeError(7, "Out of memory");
   };
 }
@@ -97,7 +45,7 @@ NamedFaults::~NamedFaults() {
 }
 
 void NamedFaults::refuse(const std::string& beginning) {
-  refusing_->refuse(beginning);
+  database->refuse(beginning);
 }
 
 void NamedFaults::refuseChange(const std::string& formName, const std::string& control,
@@ -109,14 +57,12 @@ void NamedFaults::refuseChange(const std::string& formName, const std::string& c
 void NamedFaults::attachViews(Form& form) {
   for (const RefusedChange& change : changes_) {
     if (change.form != form.name()) continue;
-    Control* control = form.find(change.control);
-    if (control == nullptr) throw std::logic_error("no control " + change.control);
-    control->setView(change.view.get());
+    controlOf<Control>(form, change.control).setView(change.view.get());
   }
 }
 
 void NamedFaults::refuseAct(const std::string& act, int number) {
-  acts_[act] = number;
+  acts_[act].fail(number);
 }
 
 void NamedFaults::addAction() {
@@ -144,22 +90,9 @@ void NamedFaults::openSinglePicker() {
   press("cmdSingleLocation");
 }
 
-void NamedFaults::selectTrigger(const std::string& deviceClass, int id) const {
-  Grid& grid = on<Grid>("frmTASummary", "MSFlexGrid1");
-  for (int row = 1; row < grid.rows(); ++row) {
-    if (grid.cell(row, summary_column::type) == deviceClass &&
-        grid.cell(row, summary_column::triggerId) == std::to_string(id)) {
-      return grid.userSelectRow(row);
-    }
-  }
-  throw std::logic_error("the summary has no such trigger");
-}
-
 void NamedFaults::selectNode(const std::string& key) const {
   auto& tree = on<TreeView>("FLocation", "tvTree");
-  TreeNode* node = tree.find(key);
-  if (node == nullptr) throw std::logic_error("no node " + key);
-  tree.userSelect(*node);
+  tree.userSelect(nodeOf(tree, key));
 }
 
 std::set<std::string> NamedFaults::reported() const {
@@ -169,8 +102,7 @@ std::set<std::string> NamedFaults::reported() const {
     logged.push_back(line.substr(environment.dateTime.size() + 2));
   }
   for (const BoxRequest& box : screen.boxes) {
-    const bool counts = box.text.find(" more errors were written to ") != std::string::npos;
-    if (box.icon != BoxIcon::Critical || counts) continue;
+    if (box.icon != BoxIcon::Critical || countsReports(box)) continue;
     if (environment.canWrite) {
       EXPECT_THAT(logged, testing::Contains(box.text));
     }

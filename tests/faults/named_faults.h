@@ -37,14 +37,12 @@ class NamedFaults : public EditorJourney {
   // The picker of a new editor, or of an edited trigger.
   void openPicker();
   void openSinglePicker();
-  void selectTrigger(const std::string& deviceClass, int id) const;
   void selectNode(const std::string& key) const;
 
   // Names in the reports' boxes so far. Each box must have its line of the log.
   std::set<std::string> reported() const;
 
  private:
-  class RefusingConnection;
   class RefusingView;
 
   void attachViews(Form& form);
@@ -55,9 +53,8 @@ class NamedFaults : public EditorJourney {
     std::unique_ptr<RefusingView> view;
   };
 
-  std::shared_ptr<RefusingConnection> refusing_;
   std::vector<RefusedChange> changes_;
-  std::map<std::string, int> acts_;  // how many until one fails
+  std::map<std::string, Faults> acts_;
 };
 
 // One procedure, and a session in which nothing but it has something to report.

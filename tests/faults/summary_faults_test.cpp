@@ -22,15 +22,21 @@ std::string procedureOf(const std::string& report) {
   return report.substr(0, report.find(": Line: "));
 }
 
-// One box, the same text as one line of the log, with the line of the call.
-void expectOneReport(const RecordingScreen& screen, const FakeEnvironment& environment,
-                     const std::set<std::string>& procedures) {
-  ASSERT_EQ(screen.boxes.size(), 1U);
-  const std::string& text = screen.boxes[0].text;
-  EXPECT_TRUE(procedures.contains(procedureOf(text))) << text;
-  EXPECT_EQ(text.find(": Line: 0 :"), std::string::npos) << text;
-  ASSERT_EQ(environment.lines.size(), 1U);
-  EXPECT_EQ(environment.lines[0].second, environment.dateTime + ": " + text);
+// A box and the same text as a line of the log, with the line of the call; as many of both as the
+// fault was met.
+void expectReports(const RecordingScreen& screen, const FakeEnvironment& environment,
+                   const std::set<std::string>& procedures, Lasting lasting) {
+  ASSERT_GE(screen.boxes.size(), 1U);
+  if (lasting == Lasting::Once) {
+    EXPECT_EQ(screen.boxes.size(), 1U);
+  }
+  ASSERT_EQ(environment.lines.size(), screen.boxes.size());
+  for (std::size_t i = 0; i < screen.boxes.size(); ++i) {
+    const std::string& text = screen.boxes[i].text;
+    EXPECT_TRUE(procedures.contains(procedureOf(text))) << text;
+    EXPECT_EQ(text.find(": Line: 0 :"), std::string::npos) << text;
+    EXPECT_EQ(environment.lines[i].second, environment.dateTime + ": " + text);
+  }
 }
 
 // The keys of what is listed are among those of the whole list, in the same order.
@@ -43,7 +49,7 @@ void expectPartOf(const std::vector<std::string>& listed, const std::vector<std:
   }
 }
 
-class SummaryFaults : public SummaryTest {
+class SummaryFaults : public SummaryTest, public testing::WithParamInterface<Lasting> {
  protected:
   SummaryFaults() {
     answerThree();
@@ -62,8 +68,8 @@ class SummaryFaults : public SummaryTest {
     screen.boxes.clear();
     surroundings.environment.lines.clear();
   }
-  void expectUsableAfterOneReport() {
-    expectOneReport(screen, surroundings.environment, readers);
+  void expectUsableAndReported() {
+    expectReports(screen, surroundings.environment, readers, GetParam());
     expectPartOf(keys(), {"CCTV 5", "DVR / NVR 5", "Intercom 8"});
     EXPECT_EQ(editAndDeleteEnabled(), grid().rows() > 1);
     EXPECT_EQ(grid().fixedRows(), 1);
@@ -75,7 +81,7 @@ class SummaryFaults : public SummaryTest {
   std::shared_ptr<FaultyConnection> faulty = std::make_shared<FaultyConnection>(database);
 };
 
-TEST_F(SummaryFaults, EachStatementAndFetchOfTheFirstLoad) {
+TEST_P(SummaryFaults, EachStatementAndFetchOfTheFirstLoad) {
   faulty->failAct(0);
   screen.show(form);
   const int acts = faulty->acts();
@@ -84,14 +90,14 @@ TEST_F(SummaryFaults, EachStatementAndFetchOfTheFirstLoad) {
     SCOPED_TRACE(n);
     form.unload();
     forgetReports();
-    faulty->failAct(n);
+    faulty->failAct(n, GetParam());
     screen.show(form);
-    expectUsableAfterOneReport();
+    expectUsableAndReported();
     EXPECT_EQ(grid().row(), grid().rows() > 1 ? 1 : 0);
   }
 }
 
-TEST_F(SummaryFaults, EachStatementAndFetchOfAReload) {
+TEST_P(SummaryFaults, EachStatementAndFetchOfAReload) {
   screen.show(form);
   faulty->failAct(0);
   form.ReloadSummary();
@@ -100,16 +106,16 @@ TEST_F(SummaryFaults, EachStatementAndFetchOfAReload) {
   for (int n = 1; n <= acts; ++n) {
     SCOPED_TRACE(n);
     forgetReports();
-    faulty->failAct(n);
+    faulty->failAct(n, GetParam());
     form.ReloadSummary();
-    expectUsableAfterOneReport();
+    expectUsableAndReported();
   }
   faulty->failAct(0);
   form.ReloadSummary();
   EXPECT_THAT(rows(), testing::ElementsAre(cctvLine, dvrLine, intercomLine));
 }
 
-TEST_F(SummaryFaults, EachHostCallOfALoad) {
+TEST_P(SummaryFaults, EachHostCallOfALoad) {
   screen.show(form);
   services.failCall(0);
   form.ReloadSummary();
@@ -118,15 +124,18 @@ TEST_F(SummaryFaults, EachHostCallOfALoad) {
   for (int n = 1; n <= calls; ++n) {
     SCOPED_TRACE(n);
     forgetReports();
-    services.failCall(n);
+    services.failCall(n, GetParam());
     form.ReloadSummary();
-    expectUsableAfterOneReport();
+    expectUsableAndReported();
     EXPECT_EQ(grid().rows(), 4);
   }
 }
 
+INSTANTIATE_TEST_SUITE_P(Lasting, SummaryFaults,
+                         testing::Values(Lasting::Once, Lasting::FromThenOn), lastingName);
+
 // Over the demonstration site, so that the tables can be compared.
-class DeletionFaults : public testing::Test {
+class DeletionFaults : public testing::TestWithParam<Lasting> {
  protected:
   struct Outcome {
     bool failed = false;
@@ -145,15 +154,16 @@ class DeletionFaults : public testing::Test {
     frmTASummary form(around.module, catalogue, [](const EditorRequest&, WindowHandle) {});
     around.screen.show(form);
     before = around.triggerTables();
-    auto& grid = dynamic_cast<Grid&>(*form.find("MSFlexGrid1"));
+    auto& grid = controlOf<Grid>(form, "MSFlexGrid1");
     grid.userSelectRow(rowOf(grid, key));
     around.journal.clear();
-    faulty->failAct(failingAct);
-    form.userPress(dynamic_cast<Button&>(*form.find("cmdDelete")));
+    faulty->failAct(failingAct, GetParam());
+    form.userPress(controlOf<Button>(form, "cmdDelete"));
     acts = faulty->acts();
     if (failingAct > 0 && failingAct <= acts) {
-      expectOneReport(around.screen, around.environment,
-                      {"Module1.DeleteCCTVTriggerAction", "Module1.DeleteTriggerAction"});
+      expectReports(around.screen, around.environment,
+                    {"Module1.DeleteCCTVTriggerAction", "Module1.DeleteTriggerAction"},
+                    Lasting::Once);
     }
     Outcome outcome{failingAct > 0 && failingAct <= acts, rowOf(grid, key) > 0,
                     around.triggerTables(), around.journal.of("host: LogEvent"),
@@ -166,7 +176,7 @@ class DeletionFaults : public testing::Test {
   int acts = 0;
 };
 
-TEST_F(DeletionFaults, OfACctvActionLeaveEverythingAsItWas) {
+TEST_P(DeletionFaults, OfACctvActionLeaveEverythingAsItWas) {
   deleteWithFault({"CCTV", 2}, 0);
   ASSERT_EQ(acts, 1);
   const Outcome outcome = deleteWithFault({"CCTV", 2}, 1);
@@ -175,7 +185,7 @@ TEST_F(DeletionFaults, OfACctvActionLeaveEverythingAsItWas) {
   EXPECT_TRUE(outcome.audits.empty());
 }
 
-TEST_F(DeletionFaults, OfADvrTriggerStopAtThatPointAndKeepTheRowListed) {
+TEST_P(DeletionFaults, OfADvrTriggerStopAtThatPointAndKeepTheRowListed) {
   const Outcome whole = deleteWithFault({"DVR / NVR", 2}, 0);
   EXPECT_FALSE(whole.listed);
   EXPECT_EQ(whole.audits.size(), 1U);
@@ -193,6 +203,9 @@ TEST_F(DeletionFaults, OfADvrTriggerStopAtThatPointAndKeepTheRowListed) {
               n == all ? whole.tables.at("DVR_TriggerActions") : before.at("DVR_TriggerActions"));
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(Lasting, DeletionFaults,
+                         testing::Values(Lasting::Once, Lasting::FromThenOn), lastingName);
 
 }  // namespace
 }  // namespace pelorin::test

@@ -7,7 +7,6 @@
 
 #include "host/odbc/odbc_handle.h"
 #include "test_paths.h"
-#include "tests/site/server_errors.h"
 
 namespace pelorin::host {
 namespace {
@@ -151,20 +150,6 @@ TEST_F(OdbcConnectionTest, AWrongStatementIsAnErrorWithTheServersTextAndNumber) 
   }
   EXPECT_NO_THROW(connection.execute("delete from Things"));
 }
-
-class OdbcErrorNumber : public testing::TestWithParam<site::ServerError> {};
-
-TEST_P(OdbcErrorNumber, IsTheOneThatAdoAndTheEmbeddedDatabaseGive) {
-  try {
-    throwOdbcError({{"what the server said", GetParam().server, GetParam().state}});
-  } catch (const DatabaseError& error) {
-    EXPECT_EQ(error.number(), GetParam().ado);
-    EXPECT_EQ(error.messages().at(0).nativeNumber, GetParam().server);
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(Server, OdbcErrorNumber, testing::ValuesIn(site::serverErrors),
-                         [](const auto& error) { return std::string(error.param.name); });
 
 TEST_F(OdbcConnectionTest, ADoubledKeyIsToldApartFromAWrongStatement) {
   connection.execute("create table Keys (ID integer primary key)");

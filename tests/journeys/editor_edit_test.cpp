@@ -90,15 +90,7 @@ TEST_F(EditJourney, TheSingleLocationComesFromThePicker) {
   edit("CCTV", 1);
   press("cmdSingleLocation");
   auto& tree = on<TreeView>("FLocation", "tvTree");
-  TreeNode* door = nullptr;
-  const std::function<void(const std::vector<std::unique_ptr<TreeNode>>&)> search =
-      [&](const auto& nodes) {
-        for (const auto& node : nodes) {
-          if (node->tag == "001.01.007.D02") door = node.get();
-          search(node->children());
-        }
-      };
-  search(tree.roots());
+  TreeNode* door = nodeTagged(tree, "001.01.007.D02");
   ASSERT_NE(door, nullptr);
   tree.userSelect(*door);
   press("FLocation", "cmdMain(0)");

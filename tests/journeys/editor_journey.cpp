@@ -1,21 +1,15 @@
 #include "tests/journeys/editor_journey.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 #include "site/schema.h"
+#include "summary/summary_grid.h"
 
 namespace pelorin::test {
 
 namespace {
-
-TreeNode* nodeTagged(const std::vector<std::unique_ptr<TreeNode>>& nodes, const std::string& tag) {
-  for (const auto& node : nodes) {
-    if (node->tag == tag) return node.get();
-    if (TreeNode* below = nodeTagged(node->children(), tag)) return below;
-  }
-  return nullptr;
-}
 
 std::string tableQuery(const site::Table& table) {
   std::string sql = "select * from " + table.name;
@@ -43,7 +37,7 @@ std::vector<std::string> rowsOf(Connection& connection, const std::string& sql) 
 
 }  // namespace
 
-EditorJourney::EditorJourney() {
+EditorJourney::EditorJourney() : OpenForms(screen) {
   services->newerHardware = true;
   services->operatorId = 1;
   services->workStationId = 1;
@@ -62,64 +56,32 @@ EditorJourney::~EditorJourney() {
   database->onSent = nullptr;
 }
 
-Form& EditorJourney::form(const std::string& name) const {
-  Form* open = screen.open<Form>(name);
-  if (open == nullptr) throw std::logic_error(name + " is not open");
-  return *open;
-}
-
 frmTriggerAction& EditorJourney::editor() const {
   return dynamic_cast<frmTriggerAction&>(form("frmTriggerAction"));
 }
 
-void EditorJourney::press(const std::string& formName, const std::string& button) const {
-  form(formName).userPress(on<Button>(formName, button));
+void EditorJourney::selectTrigger(const std::string& deviceClass, int id) const {
+  Grid& grid = on<Grid>("frmTASummary", "MSFlexGrid1");
+  const int row = rowOf(grid, {deviceClass, id});
+  if (row == 0) throw std::logic_error("the summary has no such trigger");
+  grid.userSelectRow(row);
 }
 
 void EditorJourney::edit(const std::string& deviceClass, int id) const {
-  Grid& grid = on<Grid>("frmTASummary", "MSFlexGrid1");
-  for (int row = 1; row < grid.rows(); ++row) {
-    if (grid.cell(row, summary_column::type) != deviceClass ||
-        grid.cell(row, summary_column::triggerId) != std::to_string(id))
-      continue;
-    grid.userSelectRow(row);
-    press("frmTASummary", "cmdAddEdit(1)");
-    return;
-  }
-  throw std::logic_error("the summary has no such trigger");
-}
-
-void EditorJourney::tickFilter(const std::string& text) const {
-  auto& filters = inEditor<ListBox>("lstEventFilters");
-  for (int row = 0; row < filters.listCount(); ++row) {
-    if (filters.row(row).text == text) filters.userToggle(row);
-  }
-}
-
-void EditorJourney::checkEvent(int eventId) const {
-  auto& events = inEditor<ListView>("lvwEvents");
-  for (int row = 1; row <= events.count(); ++row) {
-    if (events.item(row).subItems.front() == eventNumberText(eventId)) events.userCheck(row, true);
-  }
+  selectTrigger(deviceClass, id);
+  press("frmTASummary", "cmdAddEdit(1)");
 }
 
 void EditorJourney::pickLocations(const std::vector<std::string>& tags) const {
   press("cmdAddLocation");
   auto& tree = on<TreeView>("FLocation", "tvTree");
   for (const std::string& tag : tags) {
-    TreeNode* node = nodeTagged(tree.roots(), tag);
+    TreeNode* node = nodeTagged(tree, tag);
     if (node == nullptr) continue;
     tree.userSelect(*node);
     tree.userDoubleClick();
   }
   form("FLocation").unload();
-}
-
-void EditorJourney::choose(const std::string& combo, const std::string& text) const {
-  auto& rows = inEditor<ComboBox>(combo);
-  for (int row = 0; row < rows.listCount(); ++row) {
-    if (rows.row(row).text == text) return rows.userSelect(row);
-  }
 }
 
 SiteRows EditorJourney::rows() const {
@@ -143,6 +105,10 @@ int EditorJourney::actsBeforeReload() const {
     return sent.statement.starts_with("select CCTV_TriggerAction.*");
   });
   return reload == sent_.rend() ? database->acts() : reload->act - 1;
+}
+
+bool countsReports(const BoxRequest& box) {
+  return box.text.find(" more errors were written to ") != std::string::npos;
 }
 
 SiteRows added(const SiteRows& before, const SiteRows& after) {

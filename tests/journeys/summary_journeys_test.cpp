@@ -3,6 +3,7 @@
 
 #include "site/large_site.h"
 #include "summary/frm_ta_summary.h"
+#include "tests/fakes/lookups.h"
 #include "tests/journeys/site_surroundings.h"
 
 namespace pelorin::test {
@@ -15,7 +16,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-class SummaryJourney : public testing::Test {
+class SummaryJourney : public testing::Test, protected OneForm {
  protected:
   explicit SummaryJourney(const SiteFilling& filling = demonstrationSite) : around(filling) {
     around.services->texts = {{1677, "Call camera"}, {1675, "Raise alarm"}, {1821, "Acknowledge"}};
@@ -26,20 +27,10 @@ class SummaryJourney : public testing::Test {
     around.screen.show(form);
     around.journal.clear();
   }
-  Grid& grid() { return dynamic_cast<Grid&>(*form.find("MSFlexGrid1")); }
-  Button& button(const std::string& name) { return dynamic_cast<Button&>(*form.find(name)); }
-  std::string row(int number) {
-    std::string cells;
-    for (int column = 0; column < grid().columns(); ++column) {
-      cells += grid().cell(number, column) + "|";
-    }
-    return cells;
-  }
-  std::vector<std::string> rows() {
-    std::vector<std::string> found;
-    for (int number = 1; number < grid().rows(); ++number) found.push_back(row(number));
-    return found;
-  }
+  Form& tested() override { return form; }
+  Grid& grid() { return control<Grid>("MSFlexGrid1"); }
+  std::string row(int number) { return rowText(grid(), number); }
+  std::vector<std::string> rows() { return rowTexts(grid()); }
   int rowOfTrigger(const std::string& type, int id) {
     const int number = rowOf(grid(), {type, id});
     EXPECT_GT(number, 0) << type << " " << id;

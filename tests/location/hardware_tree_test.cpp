@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/fakes/lookups.h"
 #include "tests/location/small_site.h"
 #include "tests/location/tree_text.h"
 
@@ -22,11 +23,7 @@ class HardwareTreeTest : public testing::Test {
     LocationNodes nodes(around.module, tree, [] { return true; });
     return HardwareTree(nodes, newerFamily).RefreshHardware();
   }
-  TreeNode& node(const std::string& key) {
-    TreeNode* found = tree.find(key);
-    if (found == nullptr) throw std::runtime_error("no node " + key);
-    return *found;
-  }
+  TreeNode& node(const std::string& key) { return nodeOf(tree, key); }
   std::vector<std::string> statements() const { return around.database->statements(); }
   void answer(const std::string& sql, Result result) {
     around.database->answer(sql, std::move(result));

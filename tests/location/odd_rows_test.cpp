@@ -2,6 +2,7 @@
 
 #include "location/hardware_tree.h"
 #include "location/location_text.h"
+#include "tests/fakes/lookups.h"
 #include "tests/location/picker_fixture.h"
 #include "tests/location/tree_text.h"
 
@@ -17,11 +18,7 @@ class OddRowsTest : public testing::Test {
     LocationNodes nodes(around.module, tree, [] { return true; });
     return HardwareTree(nodes, true).RefreshHardware();
   }
-  TreeNode& node(const std::string& key) {
-    TreeNode* found = tree.find(key);
-    if (found == nullptr) throw std::runtime_error("no node " + key);
-    return *found;
-  }
+  TreeNode& node(const std::string& key) { return nodeOf(tree, key); }
   void answer(const std::string& sql, Result result) {
     around.database->answer(sql, std::move(result));
   }

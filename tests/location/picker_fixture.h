@@ -10,6 +10,7 @@
 #include "controls/list_view.h"
 #include "location/f_location.h"
 #include "tests/fakes/bitmap_builder.h"
+#include "tests/fakes/lookups.h"
 #include "tests/fakes/surroundings.h"
 #include "tests/location/small_site.h"
 
@@ -69,11 +70,7 @@ class PickerTest : public testing::Test {
     picker.setMode(mode);
     around.screen.show(picker);
   }
-  TreeNode& node(const std::string& key) {
-    TreeNode* found = picker.tvTree.find(key);
-    if (found == nullptr) throw std::runtime_error("no node " + key);
-    return *found;
-  }
+  TreeNode& node(const std::string& key) { return nodeOf(picker.tvTree, key); }
   void click(const std::string& key) { picker.tvTree.userSelect(node(key)); }
   void doubleClick(const std::string& key) {
     click(key);

@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
 #include "site/engine.h"
 #include "tests/site/site_fixture.h"
@@ -233,24 +234,35 @@ TEST_F(SiteFile, ADamagedFileIsReportedWhenItIsRead) {
             "The database file '" + file + "' is damaged.");
 }
 
-TEST_F(SiteFile, ALockedFileIsReportedAfterAShortWait) {
+// Another program that writes to the file.
+class LockedFile : public SiteFile {
+ protected:
+  void lock() {
+    other_ = site::Engine::open(file, site::Engine::Mode::Open);
+    writing_.emplace(*other_);
+  }
+  void unlock() { writing_.reset(); }
+
   const std::string file = path("site.db");
+  const std::string inUse = "The database file '" + file + "' is in use by another program.";
+
+ private:
+  std::shared_ptr<site::Engine> other_;
+  std::optional<site::Transaction> writing_;
+};
+
+TEST_F(LockedFile, IsReportedAfterAShortWait) {
   SiteDatabase::create(file, emptySite);
-  const auto other = site::Engine::open(file, site::Engine::Mode::Open);
-  const site::Transaction lock(*other);
-  EXPECT_EQ(openError(file), "The database file '" + file + "' is in use by another program.");
+  lock();
+  EXPECT_EQ(openError(file), inUse);
 }
 
-TEST_F(SiteFile, AFileLockedLaterFailsTheWriteAndStaysUsable) {
-  const std::string file = path("site.db");
+TEST_F(LockedFile, ThatWasOpenedBeforeFailsTheWriteAndStaysUsable) {
   const auto connection = SiteDatabase::create(file, demonstrationSite).connect();
-  const auto other = site::Engine::open(file, site::Engine::Mode::Open);
-  {
-    const site::Transaction lock(*other);
-    EXPECT_EQ(errorOf([&] { connection->execute("exec TA_DeleteTrigger 1"); }),
-              "The database file '" + file + "' is in use by another program.");
-    EXPECT_EQ(errorOf([&] { connection->execute("exec TA_FetchSummary"); }), "");
-  }
+  lock();
+  EXPECT_EQ(errorOf([&] { connection->execute("exec TA_DeleteTrigger 1"); }), inUse);
+  EXPECT_EQ(errorOf([&] { connection->execute("exec TA_FetchSummary"); }), "");
+  unlock();
   EXPECT_EQ(errorOf([&] { connection->execute("exec TA_DeleteTrigger 1"); }), "");
 }
 

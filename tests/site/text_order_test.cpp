@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "tests/site/site_fixture.h"
-
 namespace pelorin::site {
 namespace {
 
@@ -75,33 +73,6 @@ TEST(TextOrder, CharactersBeyondTheFirstPlaneAndCutOnesHaveAPlace) {
   expectRising({"a", "\xF0\x9F\x9A\xAA", "\xF0\x9F\x9A\xAB"});
   EXPECT_NE(compareTexts("cut \xE2\x82", "cut"), 0);
   EXPECT_NE(compareTexts(std::string("a\0b", 3), "a"), 0);
-}
-
-class TextsOfASite : public SiteTest {};
-
-TEST_F(TextsOfASite, AreFoundAsAServerFindsThem) {
-  connection_->execute(
-      "insert into DVR_ViewGroups (ID, Description) values (90, 'T\xC3\xBCr \xC3\x84u\xC3\x9F"
-      "ere  ')");
-  const std::string found = "select ID from DVR_ViewGroups where Description = ";
-  EXPECT_EQ(one(found + "'t\xC3\x9CR \xC3\xA4ussere'"), "90");
-  EXPECT_EQ(one(found + "'Tur Aussere'"), "(no row)");
-  EXPECT_EQ(one("select AddInID from ApplicatrionAddIns where AddInObjectName = N'MORVATPELORIN '"),
-            "3");
-}
-
-TEST_F(TextsOfASite, AreOrderedAsAServerOrdersThem) {
-  connection_->execute("delete from DVR_ViewGroups");
-  connection_->execute(
-      "insert into DVR_ViewGroups (ID, Description) values (1, 'zebra'), (2, '\xC3\xA4pfel'), "
-      "(3, 'Apfelbaum'), (4, '\xC3\x89tage'), (5, 'etagen'), (6, 'apfel'), (7, '_low')");
-  std::string order;
-  for (const auto& row :
-       allRows(*connection_, "select ID, Description from DVR_ViewGroups order by Description",
-               {"ID"})) {
-    order += row[0];
-  }
-  EXPECT_EQ(order, "7623451");
 }
 
 }  // namespace

@@ -107,7 +107,7 @@ TEST_F(SummaryActsTest, EditorThatCannotBeShownIsReported) {
     throw RunTimeError(7, "Out of memory", 3);
   });
   screen.show(failing);
-  failing.userPress(dynamic_cast<Button&>(*failing.find("cmdAddEdit(0)")));
+  failing.userPress(controlOf<Button>(failing, "cmdAddEdit(0)"));
   EXPECT_THAT(boxes(), ElementsAre("frmTASummary.cmdAddEdit_Click: Line: 3 :Out of memory"));
   failing.unload();
 }

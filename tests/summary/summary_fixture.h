@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "summary/frm_ta_summary.h"
+#include "tests/fakes/lookups.h"
 #include "tests/fakes/surroundings.h"
 
 namespace pelorin::test {
@@ -34,7 +35,7 @@ inline Row deviceRow(std::int64_t id, const std::string& address, std::int64_t e
   return {id, address, event, className, action};
 }
 
-class SummaryTest : public testing::Test {
+class SummaryTest : public testing::Test, protected OneForm {
  protected:
   SummaryTest() {
     database.answer(typesQuery,
@@ -44,6 +45,7 @@ class SummaryTest : public testing::Test {
     answerDescription(5001, "Alarm input");
     answerDvrName(31, "Recorder A");
   }
+  Form& tested() override { return form; }
   void TearDown() override { screen.unloadAll(); }
 
   void answerDescription(int eventId, const std::string& text) {
@@ -78,29 +80,13 @@ class SummaryTest : public testing::Test {
     open();
   }
 
-  template <class ControlType>
-  ControlType& control(const std::string& name) {
-    return dynamic_cast<ControlType&>(*form.find(name));
-  }
-  Button& button(const std::string& name) { return control<Button>(name); }
   Grid& grid() { return control<Grid>("MSFlexGrid1"); }
   bool editAndDeleteEnabled() {
     EXPECT_EQ(edit.enabled(), remove.enabled());
     return edit.enabled();
   }
-  // The cells of a row, each ended by "|".
-  std::string row(int number) {
-    std::string cells;
-    for (int column = 0; column < grid().columns(); ++column) {
-      cells += grid().cell(number, column) + "|";
-    }
-    return cells;
-  }
-  std::vector<std::string> rows() {
-    std::vector<std::string> found;
-    for (int number = 1; number < grid().rows(); ++number) found.push_back(row(number));
-    return found;
-  }
+  std::string row(int number) { return rowText(grid(), number); }
+  std::vector<std::string> rows() { return rowTexts(grid()); }
   std::vector<std::string> boxes() const { return screen.boxTexts(); }
 
   Surroundings surroundings;
