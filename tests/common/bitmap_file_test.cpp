@@ -70,6 +70,17 @@ TEST(BitmapFile, MasksStandBetweenHeaderAndPixels) {
                                .rows = std::string(8, 'x')}));
 }
 
+TEST(BitmapFile, MasksCountWhereTheHeaderDoesNotSayWhereThePixelsAre) {
+  std::string file = fileOf({.width = 2,
+                             .height = 2,
+                             .bits = 16,
+                             .compression = 3,
+                             .palette = {0xF800, 0x07E0, 0x001F},
+                             .rows = std::string(8, 'x')});
+  file.replace(10, 4, 4, '\0');
+  expectNeedsEveryByte(file);
+}
+
 TEST(BitmapFile, OldHeaderOfTwelveBytes) {
   const std::string header = "BM" + littleEndian(0, 4) + littleEndian(0, 4) +
                              littleEndian(14 + 12 + 6, 4) + littleEndian(12, 4) +

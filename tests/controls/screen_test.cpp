@@ -38,6 +38,16 @@ class NotingForm : public Form {
   Events& events_;
 };
 
+// Tells when it goes.
+class Watched : public Form {
+ public:
+  explicit Watched(bool& gone) : Form("watched", "", {}), gone_(gone) {}
+  ~Watched() override { gone_ = true; }
+
+ private:
+  bool& gone_;
+};
+
 class Screens : public ::testing::Test {
  protected:
   Journal journal;
@@ -163,11 +173,6 @@ TEST_F(Screens, SetOwnerGivesThePreviousOneBack) {
 
 TEST_F(Screens, ARetiredFormLivesUntilItIsCollected) {
   bool gone = false;
-  struct Watched : Form {
-    explicit Watched(bool& flag) : Form("watched", "", {}), gone_(flag) {}
-    ~Watched() override { gone_ = true; }
-    bool& gone_;
-  };
   screen.retire(std::make_unique<Watched>(gone));
   summary.whileLoading = [&] {
     screen.collect();
@@ -175,6 +180,19 @@ TEST_F(Screens, ARetiredFormLivesUntilItIsCollected) {
   };
   screen.show(summary);
   EXPECT_FALSE(gone);
+  screen.collect();
+  EXPECT_TRUE(gone);
+}
+
+TEST_F(Screens, AnOpeningOrClosingThatFailsKeepsNoRetiredForm) {
+  const auto fail = [] { throw std::runtime_error("refused"); };
+  summary.whileLoading = fail;
+  EXPECT_THROW(screen.show(summary), std::runtime_error);
+  summary.whileUnloading = fail;
+  EXPECT_THROW(screen.unload(summary), std::runtime_error);
+  summary.whileUnloading = {};
+  bool gone = false;
+  screen.retire(std::make_unique<Watched>(gone));
   screen.collect();
   EXPECT_TRUE(gone);
 }

@@ -78,7 +78,9 @@ TEST_F(DataScriptOrder, ChecksEveryTableAndColumnBeforeItBegins) {
 }
 
 TEST_F(DataScriptOrder, BeginsOnlyWithoutErrorsWithoutATransactionAndWhereNoTableHasARow) {
-  const std::string& batch = *first("\nbegin transaction\n");
+  const Place beginning = first("\nbegin transaction\n");
+  ASSERT_NE(beginning, batches_.end());
+  const std::string& batch = *beginning;
   const std::size_t begin = batch.find("\nbegin transaction\n");
   const std::size_t errors =
       batch.find("if exists (select 1 from [#PelorinScript] where Mark = N'error') print");
@@ -96,6 +98,7 @@ TEST_F(DataScriptOrder, BeginsOnlyWithoutErrorsWithoutATransactionAndWhereNoTabl
 // The mark is a row of the transaction itself: an error that ends the transaction takes it away.
 TEST_F(DataScriptOrder, AddsAndKeepsRowsOnlyWhileItsOwnTransactionStands) {
   const Place begin = first("\nbegin transaction\n");
+  ASSERT_NE(begin, batches_.end());
   EXPECT_THAT(*begin, HasSubstr("\nbegin transaction\n"
                                 "insert into [#PelorinScript] (Mark) values (N'begun')\nend"));
   std::size_t inserts = 0;

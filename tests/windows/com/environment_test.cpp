@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <atomic>
 #include <string>
 #include <thread>
 #include <vector>
@@ -124,10 +125,15 @@ TEST_F(EnvironmentTest, UpdateOfAFileThatCannotBeReadChangesNothing) {
   files::replace(file("data.bin"), "old");
   HANDLE held = CreateFileW(toWide(file("data.bin")).c_str(), GENERIC_READ, FILE_SHARE_DELETE,
                             nullptr, OPEN_EXISTING, 0, nullptr);
+  bool changed = false;
   const RunTimeError error = thrownBy([&] {
-    environment.updateFile(file("data.bin"), [](const std::string&) { return std::string("new"); });
+    environment.updateFile(file("data.bin"), [&](const std::string&) {
+      changed = true;
+      return std::string("new");
+    });
   });
   CloseHandle(held);
+  EXPECT_FALSE(changed) << "what could not be read must not pass for nothing";
   EXPECT_EQ(error.number(), 75);
   EXPECT_EQ(environment.readFile(file("data.bin")), "old");
 }
@@ -136,16 +142,22 @@ TEST_F(EnvironmentTest, UpdateOfAFileThatCannotBeReadChangesNothing) {
 TEST_F(EnvironmentTest, UpdatesOfManyAtOnceLoseNothing) {
   constexpr std::size_t writers = 4;
   constexpr std::size_t updates = 10;
+  std::atomic<int> refused = 0;
   std::vector<std::thread> threads;
   for (std::size_t writer = 0; writer < writers; ++writer) {
-    threads.emplace_back([this] {
+    threads.emplace_back([&] {
       WindowsEnvironment own;
       for (std::size_t i = 0; i < updates; ++i) {
-        own.updateFile(file("data.bin"), [](const std::string& old) { return old + "x"; });
+        try {
+          own.updateFile(file("data.bin"), [](const std::string& old) { return old + "x"; });
+        } catch (const RunTimeError&) {
+          ++refused;
+        }
       }
     });
   }
   for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(refused, 0);
   EXPECT_EQ(environment.readFile(file("data.bin")), std::string(writers * updates, 'x'));
 }
 

@@ -77,6 +77,18 @@ class CaptionsJourney : public Journey {
     driver::pressKey(box(), key);
     waitFor("end of the text box", [&] { return !driver::isShown(box()); });
   }
+  // With the mouse, which first gives a button the keyboard.
+  void pressByMouse(HWND window) {
+    RECT area{};
+    GetClientRect(window, &area);
+    driver::clickAt(window, driver::middleOf(area));
+  }
+  HWND keyboard() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetWindowThreadProcessId(picker, nullptr), &info);
+    return info.hwndFocus;
+  }
   std::string help() { return textOf(control(picker, "cmdMain(2)")); }
   void waitForFile(const std::string& part, bool holds) {
     waitFor(part,
@@ -112,6 +124,17 @@ TEST_F(CaptionsJourney, EscapeKeepsTheCaptionAndAnEmptyOneBringsBackTheDesigns) 
   pick(EndCustomising);
   waitForFile("Version=", true);
   EXPECT_THAT(CaptionsOnDisk::text(), Not(HasSubstr("cmdMain")));
+}
+
+TEST_F(CaptionsJourney, AMouseClickGivesTheTextBoxTheKeyboard) {
+  open();
+  pick(Customise);
+  for (const char* name : {"cmdMain(2)", "lblLocation"}) {
+    pressByMouse(control(picker, name));
+    waitFor(std::string("keyboard for ") + name, [&] { return keyboard() == box(); });
+    driver::pressKey(keyboard(), VK_ESCAPE);
+    waitFor("end of the text box", [&] { return !driver::isShown(box()); });
+  }
 }
 
 TEST_F(CaptionsJourney, ButtonsActAgainAfterTheEditing) {

@@ -1,16 +1,8 @@
 // One call that the host fails on the way of each main journey: the operator is told, the journey
 // goes on or stays where it is, and the database holds nothing that was not asked for.
-#include <array>
-#include <optional>
-
 #include "host/core/resource_texts.h"
-#include "host/session/component.h"
-#include "host/session/window_object.h"
 #include "host/window/resource.h"
-#include "tests/windows/journey/component_log.h"
-#include "tests/windows/journey/journey.h"
-#include "tests/windows/journey/services_between.h"
-#include "win32/text/utf16.h"
+#include "tests/windows/journey/services_journey.h"
 
 namespace pelorin::test {
 namespace {
@@ -25,34 +17,8 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;
 
-std::string builtComponent() {
-  std::array<wchar_t, 1024> folder{};
-  GetEnvironmentVariableW(L"PELORIN_DIST", folder.data(), static_cast<DWORD>(folder.size()));
-  return toUtf8(folder.data()) + "\\Pelorin.dll";
-}
-
-class FailingServicesJourney : public Journey {
+class FailingServicesJourney : public ServicesJourney {
  protected:
-  // All objects of the component's class share what any of them is given.
-  FailingServicesJourney() {
-    host.ui().run([&] {
-      host.session().loadComponent();
-      auto state = std::make_shared<host::HostState>();
-      state->audit = &host.session().data().audit();
-      services = ServicesBetween::make(
-          ComPtr<IDispatch>(host::makeObject<host::ServicesObject>(state).get()));
-      component.emplace(host::Component::load(builtComponent()));
-      component->connect(host::makeObject<host::WindowObject>(host.window()).get(), services.get(),
-                         host.session().data().ado());
-    });
-  }
-  ~FailingServicesJourney() override {
-    host.ui().run([&] {
-      component.reset();
-      services = {};
-    });
-  }
-
   void failOnce(const wchar_t* member, int which = 1) {
     host.ui().run([&] { services->failOnce(member, which); });
   }
@@ -80,10 +46,6 @@ class FailingServicesJourney : public Journey {
   std::string cctv(int id, const char* column) {
     return stored("select * from CCTV_TriggerAction where TA_ID = " + std::to_string(id), column);
   }
-
-  ComponentLog log;
-  ComPtr<ServicesBetween> services;
-  std::optional<host::Component> component;
 };
 
 constexpr int firstAdded = 9;

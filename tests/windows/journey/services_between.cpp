@@ -14,6 +14,13 @@ void ServicesBetween::failOnce(const wchar_t* member, int which) {
   if (FAILED(services_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &failing_))) {
     throw std::invalid_argument("the services have no such member");
   }
+  failCall(which);
+  anyMember_ = false;
+}
+
+void ServicesBetween::failCall(int which) {
+  anyMember_ = true;
+  failed_.clear();
   which_ = which;
   calls_ = 0;
 }
@@ -38,16 +45,19 @@ STDMETHODIMP ServicesBetween::GetTypeInfoCount(UINT* count) noexcept {
 
 STDMETHODIMP ServicesBetween::GetIDsOfNames(REFIID interfaceId, LPOLESTR* names, UINT count,
                                             LCID locale, DISPID* ids) noexcept {
-  return services_->GetIDsOfNames(interfaceId, names, count, locale, ids);
+  const HRESULT result = services_->GetIDsOfNames(interfaceId, names, count, locale, ids);
+  if (SUCCEEDED(result)) names_[ids[0]] = names[0];
+  return result;
 }
 
 STDMETHODIMP ServicesBetween::Invoke(DISPID id, REFIID interfaceId, LCID locale, WORD flags,
                                      DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
                                      UINT* argument) noexcept {
-  if (id != failing_ || ++calls_ != which_) {
+  if (!counts(id) || ++calls_ != which_) {
     return services_->Invoke(id, interfaceId, locale, flags, parameters, result, exception,
                              argument);
   }
+  failed_ = names_[id];
   exception->wCode = 0;
   exception->scode = E_FAIL;
   exception->bstrDescription = SysAllocString(L"The host is busy");

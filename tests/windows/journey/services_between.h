@@ -1,6 +1,7 @@
 // Stands between the component and its host's services, and lets one call of them fail.
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "win32/com/com_ptr.h"
@@ -17,8 +18,10 @@ class ServicesBetween final : public IDispatch {
 
   // Call number `which` of the member from now on fails, and no other.
   void failOnce(const wchar_t* member, int which = 1);
-  // Calls of that member since then.
-  int calls() const noexcept { return calls_; }
+  // The same, counting the calls of all members; 0 lets none fail.
+  void failCall(int which);
+  // Name of the member that was let fail since then; empty when none was.
+  const std::wstring& failed() const noexcept { return failed_; }
 
   STDMETHODIMP QueryInterface(REFIID id, void** object) noexcept override;
   STDMETHODIMP_(ULONG) AddRef() noexcept override { return ++references_; }
@@ -37,7 +40,12 @@ class ServicesBetween final : public IDispatch {
 
   ComPtr<IDispatch> services_;
   ULONG references_ = 1;
+  bool counts(DISPID id) const noexcept { return anyMember_ || id == failing_; }
+
+  std::map<DISPID, std::wstring> names_;
   DISPID failing_ = DISPID_UNKNOWN;
+  bool anyMember_ = false;
+  std::wstring failed_;
   int which_ = 0;
   int calls_ = 0;
 };

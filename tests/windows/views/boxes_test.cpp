@@ -1,7 +1,9 @@
 // Message boxes: who owns them, what they hold back, and what the host may do meanwhile.
 #include <functional>
+#include <new>
 #include <utility>
 
+#include "tests/faults/failing_memory.h"
 #include "tests/windows/views/desk.h"
 #include "tests/windows/views/sample_form.h"
 
@@ -88,6 +90,33 @@ TEST_F(Boxes, TheActiveWindowOwnsTheBoxAndTheOthersAreHeldBack) {
   EXPECT_TRUE(IsWindowEnabled(windowOf(editor)));
   EXPECT_TRUE(IsWindowEnabled(windowOf(summary)));
   EXPECT_TRUE(pumpUntil([&] { return GetForegroundWindow() == windowOf(editor); }));
+}
+
+TEST_F(Boxes, ABoxThatMemoryDoesNotSufficeForHoldsNothingBack) {
+  SampleForm summary;
+  SampleForm editor;
+  open(summary);
+  screen().show(editor, screen().windowOf(summary));
+  pump();
+  const BoxRequest request{std::string(1000, 'x'), BoxIcon::None, BoxButtons::Ok};
+  int failures = 0;
+  bool shown = false;
+  for (int allocation = 1; !shown; ++allocation) {
+    const DuringBox step([](HWND box) { DuringBox::answer(box, IDOK); });
+    try {
+      const FailingMemory memory(allocation);
+      screen().messageBox(request);
+      shown = true;
+    } catch (const std::bad_alloc&) {
+      ++failures;
+    }
+    EXPECT_TRUE(IsWindowEnabled(windowOf(summary))) << "allocation " << allocation;
+    EXPECT_TRUE(IsWindowEnabled(windowOf(editor))) << "allocation " << allocation;
+  }
+  EXPECT_GE(failures, 3) << "the windows, those held back, the text";
+  const HWND window = windowOf(editor);
+  editor.unload();
+  EXPECT_FALSE(IsWindow(window)) << "nothing counts as being inside a handler any more";
 }
 
 TEST_F(Boxes, AHeldBackWindowCannotBeClosed) {

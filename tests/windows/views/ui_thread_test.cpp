@@ -75,6 +75,11 @@ TEST_F(ThreadOfWindows, AFailureToFollowLeavesNoCountTooHigh) {
   ui.requestFlush();
   ui.flush();
   EXPECT_EQ(followed, 1);
+  {
+    const UiThread::Scope outermost(ui);
+    ui.requestFlush();
+  }
+  EXPECT_EQ(followed, 2) << "no loop counts as running any more";
   ui.onFlush = nullptr;
 }
 
