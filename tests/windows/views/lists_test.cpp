@@ -88,48 +88,46 @@ TEST_F(Lists, TheWheelOverAClosedComboDoesNothing) {
   EXPECT_EQ(form.cmbKind.listIndex(), 2);
 }
 
-TEST_F(Lists, EnterClosesADroppedListAndPressesNoButton) {
-  SetFocus(control("cmbKind"));
-  ask("cmbKind", CB_SHOWDROPDOWN, TRUE);
-  pump();
+// Its third row is current and its list is open.
+class DroppedCombo : public Lists {
+ protected:
+  void SetUp() override {
+    Lists::SetUp();
+    form.cmbKind.setListIndex(2);
+    pump();
+    before_ = form.count("click cmbKind");
+    SetFocus(control("cmbKind"));
+    ask("cmbKind", CB_SHOWDROPDOWN, TRUE);
+    pump();
+  }
+  int clicks() { return form.count("click cmbKind") - before_; }
+
+ private:
+  int before_ = 0;
+};
+
+TEST_F(DroppedCombo, EnterClosesItAndPressesNoButton) {
   press(VK_RETURN);
   EXPECT_EQ(ask("cmbKind", CB_GETDROPPEDSTATE), 0);
   EXPECT_EQ(form.count("click cmdOK"), 0);
 }
 
-TEST_F(Lists, ChoosingTheCurrentRowOfAComboAgainIsAClick) {
-  form.cmbKind.setListIndex(2);
-  pump();
-  const int before = form.count("click cmbKind");
-  SetFocus(control("cmbKind"));
-  ask("cmbKind", CB_SHOWDROPDOWN, TRUE);
-  pump();
+TEST_F(DroppedCombo, ChoosingTheCurrentRowAgainIsAClick) {
   press(VK_RETURN);
-  EXPECT_EQ(form.count("click cmbKind"), before + 1);
+  EXPECT_EQ(clicks(), 1);
   EXPECT_EQ(form.cmbKind.listIndex(), 2);
 }
 
-TEST_F(Lists, ChoosingAnotherRowOfADroppedComboIsOneClick) {
-  form.cmbKind.setListIndex(2);
-  pump();
-  const int before = form.count("click cmbKind");
-  SetFocus(control("cmbKind"));
-  ask("cmbKind", CB_SHOWDROPDOWN, TRUE);
+TEST_F(DroppedCombo, ChoosingAnotherRowIsOneClick) {
   press(VK_DOWN);
   press(VK_RETURN);
-  EXPECT_EQ(form.count("click cmbKind"), before + 1);
+  EXPECT_EQ(clicks(), 1);
   EXPECT_EQ(form.cmbKind.listIndex(), 3);
 }
 
-TEST_F(Lists, LeavingADroppedComboWithoutAChoiceIsNoClick) {
-  form.cmbKind.setListIndex(2);
-  pump();
-  const int before = form.count("click cmbKind");
-  SetFocus(control("cmbKind"));
-  ask("cmbKind", CB_SHOWDROPDOWN, TRUE);
-  pump();
+TEST_F(DroppedCombo, LeavingItWithoutAChoiceIsNoClick) {
   press(VK_ESCAPE);
-  EXPECT_EQ(form.count("click cmbKind"), before);
+  EXPECT_EQ(clicks(), 0);
 }
 
 TEST_F(Lists, OneClickTogglesOneFilter) {

@@ -1,0 +1,26 @@
+#include "tests/fakes/faults.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace pelorin::test {
+namespace {
+
+std::vector<bool> fourActs(Faults faults) {
+  std::vector<bool> failed;
+  for (int act = 0; act < 4; ++act) failed.push_back(faults.nextFails());
+  return failed;
+}
+
+TEST(FaultsTest, AMomentsFaultFailsOneActAndALastingOneAllFromItOn) {
+  Faults faults;
+  EXPECT_EQ(fourActs(faults), (std::vector<bool>{false, false, false, false}));
+  faults.fail(2, Lasting::Once);
+  EXPECT_EQ(fourActs(faults), (std::vector<bool>{false, true, false, false}));
+  faults.fail(2, Lasting::FromThenOn);
+  EXPECT_EQ(fourActs(faults), (std::vector<bool>{false, true, true, true}));
+}
+
+}  // namespace
+}  // namespace pelorin::test
