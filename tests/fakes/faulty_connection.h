@@ -27,7 +27,7 @@ class FaultyConnection : public Connection {
  protected:
   std::unique_ptr<Cursor> openCursor(std::string_view sql) override;
   void run(std::string_view sql) override;
-  void call(ProcedureCall& call) override;
+  void call(ProcedureCall& procedure) override;
 
  private:
   void send(std::string_view statement) const;

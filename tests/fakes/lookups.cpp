@@ -7,6 +7,7 @@ namespace {
 template <class List>
 std::vector<std::string> textsOf(const List& list) {
   std::vector<std::string> found;
+  found.reserve(static_cast<std::size_t>(list.listCount()));
   for (int row = 0; row < list.listCount(); ++row) found.push_back(list.row(row).text);
   return found;
 }

@@ -16,6 +16,8 @@ namespace pelorin::test {
 class RecordingScreen : public Screen {
  public:
   explicit RecordingScreen(Journal& journal) : journal_(journal) {}
+  RecordingScreen(const RecordingScreen&) = delete;
+  RecordingScreen& operator=(const RecordingScreen&) = delete;
   ~RecordingScreen() override;
 
   BoxAnswer messageBox(const BoxRequest& request) override;

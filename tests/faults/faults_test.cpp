@@ -2,14 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace pelorin::test {
 namespace {
 
 std::vector<bool> fourActs(Faults faults) {
-  std::vector<bool> failed;
-  for (int act = 0; act < 4; ++act) failed.push_back(faults.nextFails());
+  std::vector<bool> failed(4);
+  std::generate(failed.begin(), failed.end(), [&faults] { return faults.nextFails(); });
   return failed;
 }
 
