@@ -4,14 +4,13 @@
 #include <utility>
 
 #include "base/text_key.h"
+#include "database/ado_numbers.h"
 
 namespace pelorin {
 
 namespace {
 
 constexpr std::size_t blockRows = 500;
-constexpr std::int32_t fieldNotFound = 3265;
-constexpr std::int32_t noCurrentRow = 3021;
 
 }  // namespace
 
@@ -76,11 +75,12 @@ void RecordSet::close() {
 }
 
 const Value& RecordSet::value(int position, SourceLine where) const {
-  if (row_ == 0) throw RunTimeError(noCurrentRow, "There is no current record.", where.line());
+  if (row_ == 0)
+    throw RunTimeError(ado::error::noCurrentRecord, "There is no current record.", where.line());
   const auto column = static_cast<std::size_t>(position);
   if (position < 0 || column >= columns_.size()) {
     throw RunTimeError(
-        fieldNotFound,
+        ado::error::itemNotFound,
         "Item cannot be found in the collection: column " + std::to_string(position) + ".",
         where.line());
   }
@@ -99,7 +99,7 @@ std::size_t RecordSet::columnOf(std::string_view field, SourceLine where) const 
       if (equalNoCase(columns_[column], field)) return lastAsked_ = follower = column;
     }
   }
-  throw RunTimeError(fieldNotFound,
+  throw RunTimeError(ado::error::itemNotFound,
                      "Item cannot be found in the collection: " + std::string(field) + ".",
                      where.line());
 }

@@ -6,6 +6,7 @@
 #include <limits>
 #include <utility>
 
+#include "database/ado_numbers.h"
 #include "site/errors.h"
 #include "site/text_order.h"
 
@@ -19,12 +20,12 @@ struct Wording {
   std::string_view engine;  // how the engine's message begins
   std::string_view before;
   std::string_view after;
-  std::int32_t number = ado_error::statement;
+  std::int32_t number = ado::error::statement;
 };
 
 // The engine's messages and what the server says in the same case.
 constexpr std::array<Wording, 4> wordings{
-    {{"no such table: ", "Invalid object name '", "'.", ado_error::noTable},
+    {{"no such table: ", "Invalid object name '", "'.", ado::error::noTable},
      {"no such column: ", "Invalid column name '", "'."},
      {"near \"", "Incorrect syntax near '", "'."},
      {"ambiguous column name: ", "Ambiguous column name '", "'."}}};
@@ -57,7 +58,7 @@ RunTimeError constraintError(const std::string& message) {
   constexpr std::string_view nullRefused = "NOT NULL constraint failed: ";
   const std::size_t dot = message.rfind('.');
   if (!message.starts_with(nullRefused) || dot == std::string::npos) {
-    return {ado_error::constraint, message + "."};
+    return {ado::error::constraint, message + "."};
   }
   const std::string_view table =
       std::string_view(message).substr(nullRefused.size(), dot - nullRefused.size());

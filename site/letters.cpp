@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+#include "base/utf.h"
+
 namespace pelorin::site {
 
 namespace {
@@ -155,26 +157,14 @@ char32_t secondLetterOf(char32_t code) {
   return 0;
 }
 
-std::size_t lengthOf(unsigned char first) {
-  if (first < 0xC0U) return 1;
-  if (first < 0xE0U) return 2;
-  return first < 0xF0U ? 3 : 4;
-}
-
 }  // namespace
 
 char32_t LetterReader::peekCharacter(std::size_t& bytes) const {
   bytes = 0;
   if (rest_.empty()) return 0;
-  const auto first = static_cast<unsigned char>(rest_.front());
-  const std::size_t length = lengthOf(first);
-  constexpr std::array<unsigned, 5> firstBits{0, 0xFF, 0x1F, 0x0F, 0x07};
-  char32_t code = first & firstBits[length];
-  for (bytes = 1; bytes < length && bytes < rest_.size(); ++bytes) {
-    const auto next = static_cast<unsigned char>(rest_[bytes]);
-    if ((next & 0xC0U) != 0x80U) break;
-    code = (code << 6U) | (next & 0x3FU);
-  }
+  std::string_view rest = rest_;
+  const char32_t code = takeCharacter(rest);
+  bytes = rest_.size() - rest.size();
   return code;
 }
 

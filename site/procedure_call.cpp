@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "base/text_key.h"
+#include "database/ado_numbers.h"
 #include "site/errors.h"
 
 namespace pelorin::site {
@@ -27,7 +28,7 @@ class ArgumentBinder {
     std::vector<Value> result;
     for (std::size_t place = 0; place < values_.size(); ++place) {
       if (!values_[place]) {
-        throw RunTimeError(ado_error::missingParameter,
+        throw RunTimeError(ado::error::missingParameter,
                            "Procedure or function '" + procedure_.name + "' expects parameter '" +
                                procedure_.parameters[place].name + "', which was not supplied.");
       }

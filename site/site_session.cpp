@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "database/ado_numbers.h"
 #include "site/batch_reader.h"
 #include "site/engine.h"
 #include "site/errors.h"
@@ -76,7 +77,6 @@ std::vector<site::Argument> argumentsOf(const ProcedureCall& call) {
 }
 
 // What ADO says of the record set that such a statement leaves.
-constexpr std::int32_t closedObject = 3704;
 constexpr const char* closedObjectText = "Operation is not allowed when the object is closed.";
 
 class SiteConnection final : public Connection {
@@ -86,7 +86,7 @@ class SiteConnection final : public Connection {
  protected:
   std::unique_ptr<Cursor> openCursor(std::string_view sql) override {
     SiteResult result = session_->run(sql);
-    if (!result.rows) throw RunTimeError(closedObject, closedObjectText);
+    if (!result.rows) throw RunTimeError(ado::error::objectClosed, closedObjectText);
     return std::move(result.rows);
   }
   void run(std::string_view sql) override { session_->run(sql); }

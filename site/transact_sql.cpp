@@ -1,5 +1,7 @@
 #include "site/transact_sql.h"
 
+#include "base/utf.h"
+
 namespace pelorin::site {
 
 namespace {
@@ -43,32 +45,14 @@ void writeIndex(const Table& table, const ColumnNames& columns, const BatchSink&
        object(table.name) + " (" + bracketedList(columns) + ")");
 }
 
-struct Character {
-  unsigned code = 0;
-  std::size_t bytes = 1;
-};
-
-Character characterAt(std::string_view text, std::size_t at) {
-  const auto byte = [&](std::size_t ahead) {
-    return at + ahead < text.size() ? static_cast<unsigned char>(text[at + ahead]) : 0U;
-  };
-  const unsigned first = byte(0);
-  const auto tail = [&](std::size_t ahead) { return byte(ahead) & 0x3FU; };
-  if (first < 0xC0U) return {first, 1};
-  if (first < 0xE0U) return {((first & 0x1FU) << 6U) | tail(1), 2};
-  if (first < 0xF0U) return {((first & 0x0FU) << 12U) | (tail(1) << 6U) | tail(2), 3};
-  return {((first & 0x07U) << 18U) | (tail(1) << 12U) | (tail(2) << 6U) | tail(3), 4};
-}
-
-std::string ncharCall(unsigned code) {
+std::string ncharCall(char32_t code) {
   return "nchar(" + std::to_string(code) + ")";
 }
 
 // A character beyond the first plane is two units for the server.
-std::string ncharCalls(unsigned code) {
-  if (code < 0x10000U) return ncharCall(code);
-  const unsigned rest = code - 0x10000U;
-  return ncharCall(0xD800U + (rest >> 10U)) + " + " + ncharCall(0xDC00U + (rest & 0x3FFU));
+std::string ncharCalls(char32_t code) {
+  if (code < firstSupplementary) return ncharCall(code);
+  return ncharCall(highHalf(code)) + " + " + ncharCall(lowHalf(code));
 }
 
 }  // namespace
@@ -87,15 +71,14 @@ std::string bracketedList(const ColumnNames& names) {
 
 std::string serverText(std::string_view text) {
   std::string result = "N'";
-  for (std::size_t at = 0; at < text.size();) {
-    const Character character = characterAt(text, at);
-    const bool plain = character.code >= 0x20U && character.code < 0x7FU;
+  while (!text.empty()) {
+    const char32_t character = takeCharacter(text);
+    const bool plain = character >= U' ' && character < 0x7F;
     if (plain) {
-      result.append(text[at] == '\'' ? 2 : 1, text[at]);
+      result.append(character == U'\'' ? 2 : 1, static_cast<char>(character));
     } else {
-      result += "' + " + ncharCalls(character.code) + " + N'";
+      result += "' + " + ncharCalls(character) + " + N'";
     }
-    at += character.bytes;
   }
   return result + "'";
 }

@@ -1,6 +1,7 @@
 #include "host/ado/ado_command_object.h"
 
-#include "host/ado/ado_enums.h"
+#include "database/ado_numbers.h"
+#include "host/ado/ado_failure.h"
 #include "host/ado/ado_recordset_object.h"
 
 namespace pelorin::host {
@@ -37,7 +38,7 @@ bool AdoCommandObject::answersTo(REFIID id) const {
 }
 
 AdoConnectionObject& AdoCommandObject::connection() const {
-  if (!connection_) ado::fail(ado::error::invalidConnection);
+  if (!connection_) failAdo(ado::error::invalidConnection);
   return *connection_.get();
 }
 
@@ -53,7 +54,7 @@ Variant AdoCommandObject::activeConnection(const MemberCall& call) {
   if (!call.isPut()) return Variant::object(connection_.get());
   const ComPtr<IDispatch> given = objectOf(call.putValue());
   connection_ = AdoConnectionObject::from(given.get());
-  if (given && !connection_) ado::fail(ado::error::invalidArgument);
+  if (given && !connection_) failAdo(ado::error::invalidArgument);
   return {};
 }
 
@@ -100,10 +101,10 @@ void AdoCommandObject::callProcedure() {
 
 void AdoCommandObject::openInto(IDispatch* command, AdoRecordsetObject& rows) {
   const auto own = ComPtr<IDispatch>(command).query<IDispatch>(ownCommand);
-  if (!own) ado::fail(ado::error::invalidArgument);
+  if (!own) failAdo(ado::error::invalidArgument);
   const auto& self = *static_cast<AdoCommandObject*>(own.get());
   // Procedures with rows and parameters are called by their text.
-  if (!self.parameters_->list().empty()) ado::fail(ado::error::notSupported);
+  if (!self.parameters_->list().empty()) failAdo(ado::error::notSupported);
   const std::string sql = self.isProcedure() ? "EXECUTE " + self.text_ : self.text_;
   rows.show(self.connection().recorded(
                 [&](ResultConnection& database) { return database.openResults(sql); }),
@@ -112,7 +113,7 @@ void AdoCommandObject::openInto(IDispatch* command, AdoRecordsetObject& rows) {
 
 // Arguments: RecordsAffected, Parameters, Options.
 Variant AdoCommandObject::execute(const MemberCall& call) {
-  if (call.has(1)) ado::fail(ado::error::notSupported);
+  if (call.has(1)) failAdo(ado::error::notSupported);
   const bool rowsWanted = (call.int32Or(2, 0) & ado::command_type::noRecords) == 0;
   if (isProcedure() && (!rowsWanted || !parameters_->list().empty())) {
     callProcedure();

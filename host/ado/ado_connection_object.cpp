@@ -2,9 +2,11 @@
 
 #include <utility>
 
-#include "host/ado/ado_enums.h"
+#include "database/ado_numbers.h"
 #include "host/ado/ado_errors_object.h"
+#include "host/ado/ado_failure.h"
 #include "host/ado/ado_recordset_object.h"
+#include "win32/com/ado_ids.h"
 
 namespace pelorin::host {
 
@@ -69,13 +71,13 @@ ComPtr<AdoConnectionObject> AdoConnectionObject::from(IDispatch* object) {
 }
 
 std::shared_ptr<ResultConnection> AdoConnectionObject::database() const {
-  if (!database_) ado::fail(ado::error::invalidConnection);
+  if (!database_) failAdo(ado::error::invalidConnection);
   return database_;
 }
 
 Variant AdoConnectionObject::connectionString(const MemberCall& call) {
   if (!call.isPut()) return Variant::text(connectionString_);
-  if (database_) ado::fail(ado::error::objectOpen);
+  if (database_) failAdo(ado::error::objectOpen);
   connectionString_ = toText(valueOf(call.putValue()));
   return {};
 }
@@ -99,14 +101,14 @@ Variant AdoConnectionObject::execute(const MemberCall& call) {
 
 // Arguments: ConnectionString, UserID, Password, Options.
 Variant AdoConnectionObject::openMember(const MemberCall& call) {
-  if (database_) ado::fail(ado::error::objectOpen);
+  if (database_) failAdo(ado::error::objectOpen);
   if (call.has(0) && !call.text(0).empty()) connectionString_ = call.text(0);
   database_ = open_(connectionString_);
   return {};
 }
 
 Variant AdoConnectionObject::close(const MemberCall&) {
-  if (!database_) ado::fail(ado::error::objectClosed);
+  if (!database_) failAdo(ado::error::objectClosed);
   database_.reset();
   return {};
 }

@@ -1,6 +1,7 @@
 #include "host/ado/ado_errors_object.h"
 
-#include "host/ado/ado_enums.h"
+#include "database/ado_numbers.h"
+#include "host/ado/ado_failure.h"
 
 namespace pelorin::host {
 
@@ -19,7 +20,7 @@ const AdoErrorsObject::Member AdoErrorsObject::members[3] = {
 Variant AdoErrorsObject::item(const MemberCall& call) {
   const std::int32_t index = call.int32(0);
   if (index < 0 || static_cast<std::size_t>(index) >= messages_.size()) {
-    ado::fail(ado::error::itemNotFound);
+    failAdo(ado::error::itemNotFound);
   }
   const auto error = makeObject<AdoErrorObject>(messages_[static_cast<std::size_t>(index)]);
   return Variant::object(error.get());

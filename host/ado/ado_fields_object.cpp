@@ -1,6 +1,7 @@
 #include "host/ado/ado_fields_object.h"
 
-#include "host/ado/ado_enums.h"
+#include "database/ado_numbers.h"
+#include "host/ado/ado_failure.h"
 
 namespace pelorin::host {
 
@@ -29,7 +30,7 @@ const AdoFieldsObject::Member AdoFieldsObject::members[2] = {
 };
 
 Variant AdoFieldObject::value(const MemberCall& call) {
-  if (call.isPut()) ado::fail(ado::error::notSupported);
+  if (call.isPut()) failAdo(ado::error::notSupported);
   return variantOf(current());
 }
 
@@ -51,7 +52,7 @@ std::size_t AdoFieldsObject::position(const MemberCall& call) const {
   if (std::holds_alternative<std::string>(key)) return columnOf(columns, toText(key));
   const std::int64_t position = toInt64(key);
   if (position < 0 || static_cast<std::size_t>(position) >= columns.size()) {
-    ado::fail(ado::error::itemNotFound);
+    failAdo(ado::error::itemNotFound);
   }
   return static_cast<std::size_t>(position);
 }

@@ -1,8 +1,9 @@
 #include <algorithm>
 
 #include "base/text_key.h"
+#include "database/ado_numbers.h"
 #include "host/ado/ado_command_object.h"
-#include "host/ado/ado_enums.h"
+#include "host/ado/ado_failure.h"
 
 namespace pelorin::host {
 
@@ -23,7 +24,7 @@ ParameterType typeForCall(std::int32_t type) {
     case ado::data_type::real:
       return ParameterType::Double;
     default:
-      ado::fail(ado::error::invalidArgument);
+      failAdo(ado::error::invalidArgument);
   }
 }
 
@@ -34,7 +35,7 @@ ParameterDirection directionForCall(std::int32_t direction) {
     case ado::direction::output:
       return ParameterDirection::Output;
     default:
-      ado::fail(ado::error::invalidArgument);
+      failAdo(ado::error::invalidArgument);
   }
 }
 
@@ -102,7 +103,7 @@ std::size_t AdoParametersObject::position(const MemberCall& call) const {
   if (!std::holds_alternative<std::string>(key)) {
     const std::int64_t number = toInt64(key);
     if (number < 0 || static_cast<std::size_t>(number) >= list_.size()) {
-      ado::fail(ado::error::itemNotFound);
+      failAdo(ado::error::itemNotFound);
     }
     return static_cast<std::size_t>(number);
   }
@@ -110,7 +111,7 @@ std::size_t AdoParametersObject::position(const MemberCall& call) const {
   const auto found = std::find_if(list_.begin(), list_.end(), [&](const auto& parameter) {
     return equalNoCase(plainName(parameter->name()), plainName(name));
   });
-  if (found == list_.end()) ado::fail(ado::error::itemNotFound);
+  if (found == list_.end()) failAdo(ado::error::itemNotFound);
   return static_cast<std::size_t>(found - list_.begin());
 }
 
@@ -120,7 +121,7 @@ Variant AdoParametersObject::item(const MemberCall& call) {
 
 Variant AdoParametersObject::append(const MemberCall& call) {
   ComPtr<AdoParameterObject> parameter = AdoParameterObject::from(call.object(0).get());
-  if (!parameter) ado::fail(ado::error::invalidArgument);
+  if (!parameter) failAdo(ado::error::invalidArgument);
   list_.push_back(std::move(parameter));
   return {};
 }

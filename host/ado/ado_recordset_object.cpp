@@ -2,8 +2,9 @@
 
 #include <utility>
 
+#include "database/ado_numbers.h"
 #include "host/ado/ado_command_object.h"
-#include "host/ado/ado_enums.h"
+#include "host/ado/ado_failure.h"
 #include "host/ado/ado_fields_object.h"
 #include "win32/com/safe_array.h"
 
@@ -71,12 +72,12 @@ void AdoRecordsetObject::show(std::unique_ptr<ResultCursor> results,
 }
 
 const ResultReader& AdoRecordsetObject::rows() const {
-  if (!hasRows()) ado::fail(ado::error::objectClosed);
+  if (!hasRows()) failAdo(ado::error::objectClosed);
   return *reader_;
 }
 
 ResultReader& AdoRecordsetObject::openRows() {
-  if (!hasRows()) ado::fail(ado::error::objectClosed);
+  if (!hasRows()) failAdo(ado::error::objectClosed);
   return *reader_;
 }
 
@@ -94,19 +95,19 @@ Variant AdoRecordsetObject::collect(const MemberCall& call) {
 
 void AdoRecordsetObject::setConnection(IDispatch* connection) {
   connection_ = AdoConnectionObject::from(connection);
-  if (!connection_) ado::fail(ado::error::invalidArgument);
+  if (!connection_) failAdo(ado::error::invalidArgument);
 }
 
 // Arguments: Source (text or command), ActiveConnection, CursorType, LockType, Options.
 Variant AdoRecordsetObject::open(const MemberCall& call) {
-  if (hasRows()) ado::fail(ado::error::objectOpen);
+  if (hasRows()) failAdo(ado::error::objectOpen);
   if (call.has(1)) setConnection(call.object(1).get());
   if (const ComPtr<IDispatch> command = call.object(0)) {
     AdoCommandObject::openInto(command.get(), *this);
     return {};
   }
   if (call.has(0)) source_ = call.text(0);
-  if (!connection_) ado::fail(ado::error::invalidConnection);
+  if (!connection_) failAdo(ado::error::invalidConnection);
   reader_ = std::make_shared<ResultReader>(connection_->recorded(
       [this](ResultConnection& database) { return database.openResults(source_); }));
   moved_ = false;
@@ -140,16 +141,16 @@ Variant AdoRecordsetObject::moveNext(const MemberCall&) {
 
 // What has been read is gone: only a record set that stands at its start can go there.
 Variant AdoRecordsetObject::moveFirst(const MemberCall&) const {
-  if (rows().atEnd() && !moved_) ado::fail(ado::error::noCurrentRecord);
-  if (moved_) ado::fail(ado::error::notSupported);
+  if (rows().atEnd() && !moved_) failAdo(ado::error::noCurrentRecord);
+  if (moved_) failAdo(ado::error::notSupported);
   return {};
 }
 
 // Arguments: Rows (-1, the default, is all), Start, Fields.
 Variant AdoRecordsetObject::getRows(const MemberCall& call) {
-  if (call.has(1) || call.has(2)) ado::fail(ado::error::notSupported);
+  if (call.has(1) || call.has(2)) failAdo(ado::error::notSupported);
   ResultReader& reader = openRows();
-  if (reader.atEnd()) ado::fail(ado::error::noCurrentRecord);
+  if (reader.atEnd()) failAdo(ado::error::noCurrentRecord);
   moved_ = true;
   const std::vector<Value> cells =
       connection_->errorRecorded([&] { return reader.take(call.int32Or(0, -1)); });
@@ -158,7 +159,7 @@ Variant AdoRecordsetObject::getRows(const MemberCall& call) {
 
 // As with every server-side cursor this record set is closed by going on to the next result.
 Variant AdoRecordsetObject::nextRecordset(const MemberCall&) {
-  if (!reader_) ado::fail(ado::error::objectClosed);
+  if (!reader_) failAdo(ado::error::objectClosed);
   const std::shared_ptr<ResultReader> reader = std::exchange(reader_, nullptr);
   if (!reader->nextResult()) return Variant::object(nullptr);
   const auto next = makeObject<AdoRecordsetObject>();
@@ -170,14 +171,14 @@ Variant AdoRecordsetObject::nextRecordset(const MemberCall&) {
 
 Variant AdoRecordsetObject::activeConnection(const MemberCall& call) {
   if (!call.isPut()) return Variant::object(connection_.get());
-  if (hasRows()) ado::fail(ado::error::objectOpen);
+  if (hasRows()) failAdo(ado::error::objectOpen);
   setConnection(objectOf(call.putValue()).get());
   return {};
 }
 
 Variant AdoRecordsetObject::source(const MemberCall& call) {
   if (!call.isPut()) return Variant::text(source_);
-  if (hasRows()) ado::fail(ado::error::objectOpen);
+  if (hasRows()) failAdo(ado::error::objectOpen);
   source_ = toText(valueOf(call.putValue()));
   return {};
 }

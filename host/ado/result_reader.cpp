@@ -5,7 +5,8 @@
 #include <utility>
 
 #include "base/text_key.h"
-#include "host/ado/ado_enums.h"
+#include "database/ado_numbers.h"
+#include "host/ado/ado_failure.h"
 
 namespace pelorin::host {
 
@@ -42,13 +43,13 @@ void ResultReader::raiseError() const {
 
 std::span<const Value> ResultReader::row() const {
   raiseError();
-  if (atEnd()) ado::fail(ado::error::noCurrentRecord);
+  if (atEnd()) failAdo(ado::error::noCurrentRecord);
   return std::span(cells_).subspan(row_ * columns().size(), columns().size());
 }
 
 void ResultReader::next() {
   raiseError();
-  if (atEnd()) ado::fail(ado::error::noCurrentRecord);
+  if (atEnd()) failAdo(ado::error::noCurrentRecord);
   if (++row_ == rows_) fill();
 }
 
@@ -79,7 +80,7 @@ std::size_t columnOf(const std::vector<std::string>& columns, std::string_view n
   const auto found =
       std::find_if(columns.begin(), columns.end(),
                    [name](const std::string& column) { return equalNoCase(column, name); });
-  if (found == columns.end()) ado::fail(ado::error::itemNotFound);
+  if (found == columns.end()) failAdo(ado::error::itemNotFound);
   return static_cast<std::size_t>(found - columns.begin());
 }
 

@@ -1,4 +1,4 @@
-// Text as ODBC's wide calls have it; what is not valid becomes U+FFFD.
+// Text as ODBC's wide calls have it; base/utf.h has the rules.
 #pragma once
 
 #include <string>

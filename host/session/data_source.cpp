@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "host/ado/ado_connection_object.h"
-#include "host/ado/ado_enums.h"
 #include "host/core/embedded_connection.h"
 #include "host/core/watched_connection.h"
 #include "host/odbc/odbc_connection.h"
 #include "site/site_database.h"
 #include "win32/ado/ado_connection.h"
+#include "win32/com/ado_ids.h"
 #include "win32/com/com_error.h"
 #include "win32/com/late_bound.h"
 #include "win32/text/utf16.h"

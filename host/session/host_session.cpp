@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "host/ado/ado_command_object.h"
-#include "host/ado/ado_enums.h"
 #include "host/ado/ado_recordset_object.h"
 #include "host/session/window_object.h"
+#include "win32/com/ado_ids.h"
 
 namespace pelorin::host {
 

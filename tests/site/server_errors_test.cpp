@@ -1,3 +1,4 @@
+#include "database/ado_numbers.h"
 #include "site/errors.h"
 #include "site/row_data.h"
 #include "site/schema.h"
@@ -26,7 +27,7 @@ TEST(Keys, ANullAsANumberThatTheEngineGivesIsRefusedWhereASiteIsFilled) {
     SiteDatabase::inMemory(filling);
     FAIL() << "no error";
   } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.number(), site::ado_error::constraint);
+    EXPECT_EQ(error.number(), ado::error::constraint);
     EXPECT_EQ(error.description(),
               "Cannot insert the value NULL into column 'TA_ID', table 'CCTV_TriggerAction'; "
               "column does not allow nulls.");

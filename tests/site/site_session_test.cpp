@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "database/ado_numbers.h"
 #include "site/errors.h"
 #include "tests/site/site_fixture.h"
 
@@ -16,7 +17,7 @@ struct WrongStatement {
   const char* name;
   const char* sql;
   const char* description;
-  std::int32_t number = site::ado_error::statement;
+  std::int32_t number = ado::error::statement;
 };
 
 void PrintTo(const WrongStatement& statement, std::ostream* out) {
@@ -41,7 +42,7 @@ const WrongStatement wrongStatements[]{
     {"unknownProcedure", "exec NoSuchThing 1", "Could not find stored procedure 'NoSuchThing'."},
     {"unknownBareWord", "hello", "Could not find stored procedure 'hello'."},
     {"unknownTable", "select * from Nowhere", "Invalid object name 'Nowhere'.",
-     site::ado_error::noTable},
+     ado::error::noTable},
     {"unknownColumn", "select Colour from Doors", "Invalid column name 'Colour'."},
     {"trueOutsideACall", "select * from Doors where Active = True", "Invalid column name 'True'."},
     {"twoSelects", "select 1 select 2", "Incorrect syntax near 'select'."},
@@ -55,11 +56,11 @@ const WrongStatement wrongStatements[]{
      "Procedure or function TA_FetchSummary has too many arguments specified."},
     {"missingArgument", "sp_FetchKumbos",
      "Procedure or function 'sp_FetchKumbos' expects parameter '@PortID', which was not supplied.",
-     site::ado_error::missingParameter},
+     ado::error::missingParameter},
     {"missingLastArgument", "exec CCTV_Insert_TA 1, 1, 1, 0, 1, 'A', 1, '1', 'x', 0",
      "Procedure or function 'CCTV_Insert_TA' expects parameter '@OpenViewer', which was not "
      "supplied.",
-     site::ado_error::missingParameter},
+     ado::error::missingParameter},
     {"unknownName", "exec TA_DeleteTrigger @id=1",
      "@id is not a parameter for procedure TA_DeleteTrigger."},
     {"sameNameTwice", "exec TA_DeleteTrigger @TriggerID=1, @triggerid=1",
@@ -67,26 +68,26 @@ const WrongStatement wrongStatements[]{
     {"positionAfterName", "CCTV_FetchCameraNoPresets @CameraIndex=1, 2",
      "Must pass parameter number 2 and subsequent parameters as '@name = value'."},
     {"textForNumber", "exec TA_DeleteTrigger 'abc'", "Error converting data type nvarchar to int.",
-     site::ado_error::conversion},
+     ado::error::conversion},
     {"emptyTextForNumber", "exec TA_DeleteTrigger ''",
-     "Error converting data type nvarchar to int.", site::ado_error::conversion},
+     "Error converting data type nvarchar to int.", ado::error::conversion},
     {"fractionForNumber", "exec TA_DeleteTrigger 1.5", "Error converting data type numeric to int.",
-     site::ado_error::conversion},
+     ado::error::conversion},
     {"beyondInt", "exec TA_DeleteTrigger 2147483648", "Error converting data type numeric to int.",
-     site::ado_error::conversion},
+     ado::error::conversion},
     {"beyondSmallint", "exec CCTV_Insert_TA 1, 32768, 1, 0, 1, 'A', 1, '1', 'x', 0, True",
-     "Error converting data type int to smallint.", site::ado_error::conversion},
+     "Error converting data type int to smallint.", ado::error::conversion},
     {"wordForBit", "exec CCTV_Insert_TA 1, 1, 1, 0, 1, 'A', 1, '1', 'x', 0, Maybe",
-     "Error converting data type nvarchar to bit.", site::ado_error::conversion},
+     "Error converting data type nvarchar to bit.", ado::error::conversion},
     {"undoubledQuote",
      "exec CCTV_Insert_TA 1, 1, 1, 0, 1, 'A', 1, '1', 'A - Drivers' lounge', 0, True",
      "Incorrect syntax near 'lounge'."},
     {"nullIntoKey", "insert into Doors (DoorID, ControllerID) values (4711, null)",
      "Cannot insert the value NULL into column 'ControllerID', table 'Doors'; column does not "
      "allow nulls.",
-     site::ado_error::constraint},
+     ado::error::constraint},
     {"keyTwice", "insert into Servers (ServerID) values (1)",
-     "UNIQUE constraint failed: Servers.ServerID.", site::ado_error::constraint},
+     "UNIQUE constraint failed: Servers.ServerID.", ado::error::constraint},
 };
 
 std::string wrongStatementName(const testing::TestParamInfo<WrongStatement>& wrong) {

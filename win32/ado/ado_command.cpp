@@ -2,7 +2,8 @@
 
 #include <ole2.h>
 
-#include "win32/ado/ado_constants.h"
+#include "database/ado_numbers.h"
+#include "win32/com/ado_ids.h"
 #include "win32/com/com_error.h"
 #include "win32/com/late_bound.h"
 
@@ -24,12 +25,12 @@ Variant inputValue(const ProcedureParameter& parameter) {
 }
 
 std::int32_t typeOf(const ProcedureParameter& parameter) {
-  return parameter.type == ParameterType::Double ? ado::typeDouble : ado::typeInteger;
+  return parameter.type == ParameterType::Double ? ado::data_type::real : ado::data_type::integer;
 }
 
 std::int32_t directionOf(const ProcedureParameter& parameter) {
-  return parameter.direction == ParameterDirection::Output ? ado::parameterOutput
-                                                           : ado::parameterInput;
+  return parameter.direction == ParameterDirection::Output ? ado::direction::output
+                                                           : ado::direction::input;
 }
 
 LateBound newParameter(LateBound& command, const ProcedureParameter& parameter) {
@@ -55,10 +56,10 @@ void callProcedure(IDispatch* connection, ProcedureCall& procedure) {
   LateBound command = newCommand();
   command.putReference(L"ActiveConnection", connection);
   command.put(L"CommandText", Variant::text(procedure.procedure));
-  command.put(L"CommandType", Variant::int32(ado::commandStoredProcedure));
+  command.put(L"CommandType", Variant::int32(ado::command_type::storedProcedure));
   std::vector<LateBound> parameters = appendParameters(command, procedure);
-  command.call(L"Execute",
-               {Variant::missing(), Variant::missing(), Variant::int32(ado::executeNoRecords)});
+  command.call(L"Execute", {Variant::missing(), Variant::missing(),
+                            Variant::int32(ado::command_type::noRecords)});
   for (std::size_t i = 0; i < parameters.size(); ++i) {
     ProcedureParameter& parameter = procedure.parameters[i];
     if (parameter.direction == ParameterDirection::Output) {

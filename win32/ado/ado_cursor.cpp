@@ -1,6 +1,6 @@
 #include "win32/ado/ado_cursor.h"
 
-#include "win32/ado/ado_constants.h"
+#include "database/ado_numbers.h"
 #include "win32/com/com_error.h"
 #include "win32/com/safe_array.h"
 
@@ -13,7 +13,7 @@ namespace {
 constexpr int longestChain = 10000;
 
 bool isClosed(LateBound& rows) {
-  return toInt32(valueOf(rows.call(L"State"))) == ado::stateClosed;
+  return toInt32(valueOf(rows.call(L"State"))) == ado::state::closed;
 }
 
 // A procedure that writes before it reads first answers with row counts, as closed record sets.
@@ -21,7 +21,8 @@ LateBound firstWithRows(LateBound rows) {
   for (int passed = 0; isClosed(rows); ++passed) {
     const Variant next = rows.call(L"NextRecordset");
     if (!next.asObject() || passed == longestChain) {
-      throw RunTimeError(ado::objectClosed, "Operation is not allowed when the object is closed.");
+      throw RunTimeError(ado::error::objectClosed,
+                         "Operation is not allowed when the object is closed.");
     }
     rows = objectIn(next);
   }

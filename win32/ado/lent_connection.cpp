@@ -1,6 +1,6 @@
 #include "win32/ado/lent_connection.h"
 
-#include "win32/ado/ado_constants.h"
+#include "database/ado_numbers.h"
 
 namespace pelorin {
 
@@ -10,7 +10,7 @@ namespace {
 constexpr const char* connectionException = "08";
 
 bool isOpen(LateBound& connection) {
-  return (toInt32(valueOf(connection.call(L"State"))) & ado::stateOpen) != 0;
+  return (toInt32(valueOf(connection.call(L"State"))) & ado::state::open) != 0;
 }
 
 bool firstErrorIsOfTheConnection(LateBound& connection) {

@@ -7,7 +7,7 @@
 #include <iterator>
 #include <utility>
 
-#include "win32/ado/ado_constants.h"
+#include "win32/com/ado_ids.h"
 #include "win32/com/late_bound.h"
 
 namespace pelorin {

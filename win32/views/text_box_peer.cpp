@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "base/utf.h"
 #include "win32/text/utf16.h"
 #include "win32/views/form_window.h"
 #include "win32/views/peers.h"
@@ -47,19 +48,15 @@ class TextBoxPeer final : public Peer {
   // A character beyond 16 bits arrives in two halves: it is judged as one, and kept as one, with
   // the second.
   LRESULT character(wchar_t unit, LPARAM key) {
-    if (IS_HIGH_SURROGATE(unit)) {
+    if (isHighHalf(unit)) {
       high_ = unit;
       return 0;
     }
     const wchar_t high = std::exchange(high_, L'\0');
-    const bool pair = IS_LOW_SURROGATE(unit) && high != 0;
-    if (!box_.userKey(pair ? joined(high, unit) : char32_t{unit})) return 0;
+    const bool pair = isLowHalf(unit) && high != 0;
+    if (!box_.userKey(pair ? joinedHalves(high, unit) : char32_t{unit})) return 0;
     if (pair) native(WM_CHAR, high, key);
     return native(WM_CHAR, unit, key);
-  }
-
-  static char32_t joined(wchar_t high, wchar_t low) {
-    return 0x10000U + ((char32_t{high} - 0xD800U) << 10U) + (char32_t{low} - 0xDC00U);
   }
 
   TextBox& box_;

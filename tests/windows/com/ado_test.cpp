@@ -5,7 +5,7 @@
 #include "tests/windows/com/class_object.h"
 #include "tests/windows/com/fake_ado.h"
 #include "win32/ado/ado_connection.h"
-#include "win32/ado/ado_constants.h"
+#include "win32/com/ado_ids.h"
 
 namespace pelorin::test {
 namespace {

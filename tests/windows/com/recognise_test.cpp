@@ -6,7 +6,7 @@
 
 #include "tests/windows/com/fake_ado.h"
 #include "tests/windows/com/test_window.h"
-#include "win32/ado/ado_constants.h"
+#include "win32/com/ado_ids.h"
 
 namespace pelorin::test {
 namespace {

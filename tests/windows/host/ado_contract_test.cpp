@@ -2,12 +2,12 @@
 // objects, and ODBC where Wine has it.
 #include "host/ado/ado_command_object.h"
 #include "host/ado/ado_connection_object.h"
-#include "host/ado/ado_enums.h"
 #include "host/automation/class_registration.h"
 #include "host/core/embedded_connection.h"
 #include "tests/contract/connection_contract.h"
 #include "tests/site/fresh_site.h"
 #include "win32/ado/ado_connection.h"
+#include "win32/com/ado_ids.h"
 #ifdef _WIN64
 #include "tests/contract/odbc_kind.h"
 #endif
@@ -32,7 +32,7 @@ class OverAdoObjects : public ContractSubject {
 
   SiteDatabase site_ = freshDemonstration();
   host::ClassRegistration commands_{
-      host::ado::commandClass,
+      ado::commandClass,
       [] { return ComPtr<IDispatch>(host::makeObject<host::AdoCommandObject>().get()); }};
   AdoConnection adapter_{lent()};
 };

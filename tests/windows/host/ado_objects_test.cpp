@@ -2,12 +2,13 @@
 
 #include "host/ado/ado_command_object.h"
 #include "host/ado/ado_connection_object.h"
-#include "host/ado/ado_enums.h"
+#include "host/ado/ado_failure.h"
 #include "host/ado/ado_recordset_object.h"
 #include "host/automation/class_registration.h"
 #include "host/core/embedded_connection.h"
 #include "site/site_database.h"
 #include "win32/ado/ado_connection.h"
+#include "win32/com/ado_ids.h"
 #include "win32/com/late_bound.h"
 #include "win32/services/recognise.h"
 
@@ -152,7 +153,7 @@ TEST_F(AdoObjects, AfterCloseTheConnectionIsInvalid) {
 class AdapterOverAdoObjects : public AdoObjects {
  protected:
   AdapterOverAdoObjects()
-      : commands(host::ado::commandClass,
+      : commands(ado::commandClass,
                  [] { return ComPtr<IDispatch>(host::makeObject<AdoCommandObject>().get()); }) {}
 
   host::ClassRegistration commands;
@@ -217,7 +218,7 @@ TEST_F(AdapterOverAdoObjects, NothingIsLeftOpenByAnErrorInAStatement) {
 
 TEST_F(AdapterOverAdoObjects, TheRegisteredClassServesThisApartmentUntilItIsRevoked) {
   ComPtr<IDispatch> command;
-  ASSERT_EQ(CoCreateInstance(host::ado::commandClass, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+  ASSERT_EQ(CoCreateInstance(ado::commandClass, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
                              command.putVoid()),
             S_OK);
   EXPECT_TRUE(LateBound(command).knows(L"CreateParameter"));

@@ -1,28 +1,28 @@
-#include "host/ado/ado_enums.h"
+#include "host/ado/ado_failure.h"
 
 #include "base/run_time_error.h"
+#include "database/ado_numbers.h"
 
-namespace pelorin::host::ado {
+namespace pelorin::host {
 
 namespace {
 
 const char* textOf(std::int32_t number) {
   switch (number) {
-    case error::invalidArgument:
+    case ado::error::invalidArgument:
       return "Arguments are of the wrong type, are out of acceptable range, or are in conflict "
-             "with "
-             "one another.";
-    case error::noCurrentRecord:
+             "with one another.";
+    case ado::error::noCurrentRecord:
       return "Either BOF or EOF is True, or the current record has been deleted. Requested "
              "operation requires a current record.";
-    case error::notSupported:
+    case ado::error::notSupported:
       return "Current provider does not support the requested operation.";
-    case error::itemNotFound:
+    case ado::error::itemNotFound:
       return "Item cannot be found in the collection corresponding to the requested name or "
              "ordinal.";
-    case error::objectClosed:
+    case ado::error::objectClosed:
       return "Operation is not allowed when the object is closed.";
-    case error::objectOpen:
+    case ado::error::objectOpen:
       return "Operation is not allowed when the object is open.";
     default:
       return "The connection cannot be used to perform this operation. It is either closed or "
@@ -32,8 +32,8 @@ const char* textOf(std::int32_t number) {
 
 }  // namespace
 
-void fail(std::int32_t number) {
+void failAdo(std::int32_t number) {
   throw RunTimeError(number, textOf(number));
 }
 
-}  // namespace pelorin::host::ado
+}  // namespace pelorin::host

@@ -1,25 +1,14 @@
-// The numbers of ADO that these objects give and take, and the classes they stand in for.
+// ADO's numbers, as its documentation has them: what the component sends and understands, and what the
+// connections that stand in ADO's place answer.
 #pragma once
 
 #include <cstdint>
 
-#include "win32/text/windows_api.h"
-
-namespace pelorin::host::ado {
-
-constexpr GUID adoId(unsigned long number) {
-  return {number, 0, 0x10, {0x80, 0, 0, 0xAA, 0, 0x6D, 0x2E, 0xA4}};
-}
-inline constexpr CLSID commandClass = adoId(0x00000507);
-inline constexpr CLSID connectionClass = adoId(0x00000514);
-inline constexpr CLSID recordsetClass = adoId(0x00000535);
-// _Connection before and since the change of its 64-bit parameters.
-inline constexpr IID oldConnectionInterface = adoId(0x00000550);
-inline constexpr IID connectionInterface = adoId(0x00001550);
+namespace pelorin::ado {
 
 namespace state {
 inline constexpr std::int32_t closed = 0;
-inline constexpr std::int32_t open = 1;
+inline constexpr std::int32_t open = 1;  // a bit
 }  // namespace state
 
 namespace command_type {
@@ -55,9 +44,17 @@ inline constexpr std::int32_t itemNotFound = 3265;
 inline constexpr std::int32_t objectClosed = 3704;
 inline constexpr std::int32_t objectOpen = 3705;
 inline constexpr std::int32_t invalidConnection = 3709;
+// What the provider of a SQL Server answers.
+inline constexpr std::int32_t statement = -2147217900;   // the statement is wrong
+inline constexpr std::int32_t conversion = -2147217913;  // a value has the wrong type
+inline constexpr std::int32_t overflow = -2147217833;    // a value is too large or too long
+inline constexpr std::int32_t constraint = -2147217873;  // a key or a required column is violated
+inline constexpr std::int32_t noTable = -2147217865;
+inline constexpr std::int32_t missingParameter = -2147217904;
+inline constexpr std::int32_t noPermission = -2147217911;
+inline constexpr std::int32_t loginFailed = -2147217843;
+inline constexpr std::int32_t timedOut = -2147217871;
+inline constexpr std::int32_t failed = -2147467259;  // the database itself failed
 }  // namespace error
 
-// Throws the error with ADO's own words.
-[[noreturn]] void fail(std::int32_t number);
-
-}  // namespace pelorin::host::ado
+}  // namespace pelorin::ado
