@@ -28,7 +28,7 @@ std::wstring ownPath() {
   for (;;) {
     const DWORD length =
         GetModuleFileNameW(ownModule(), path.data(), static_cast<DWORD>(path.size()));
-    if (length == 0) throw errorOf(HRESULT_FROM_WIN32(GetLastError()));
+    if (length == 0) throw comError(HRESULT_FROM_WIN32(GetLastError()));
     if (length < path.size()) {
       path.resize(length);
       return path;

@@ -20,7 +20,7 @@ DWORD threadOf(HWND window) noexcept {
 class Moving {
  public:
   explicit Moving(std::atomic_flag& flag) : flag_(flag) {
-    if (flag_.test_and_set()) throw errorOf(RPC_E_WRONG_THREAD);
+    if (flag_.test_and_set()) throw comError(RPC_E_WRONG_THREAD);
   }
   Moving(const Moving&) = delete;
   Moving& operator=(const Moving&) = delete;
@@ -69,7 +69,7 @@ void ProcessEntrance::takeOver() {
   const Moving moving(moving_);
   const HWND before = ownersWindow_;
   const bool ended = before != nullptr && threadOf(before) == 0;
-  if (!ended && inUse()) throw errorOf(RPC_E_WRONG_THREAD);
+  if (!ended && inUse()) throw comError(RPC_E_WRONG_THREAD);
   std::unique_ptr<Tenant> next = tenantOfCaller();
   // A thread that ended inside a call never leaves it.
   const bool abandoned = ended && calls_ > 0;
@@ -82,7 +82,7 @@ void ProcessEntrance::takeOver() {
     // The owner came in a moment ago and stays.
     ownersWindow_ = before;
     former_.push_back(std::move(next));
-    throw errorOf(RPC_E_WRONG_THREAD);
+    throw comError(RPC_E_WRONG_THREAD);
   }
   ++calls_;
   replaceTenant(std::move(next), abandoned);

@@ -7,7 +7,7 @@ namespace pelorin {
 namespace {
 
 void checkStatus(LSTATUS status) {
-  if (status != ERROR_SUCCESS) throw errorOf(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
+  if (status != ERROR_SUCCESS) throw comError(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
 }
 
 }  // namespace

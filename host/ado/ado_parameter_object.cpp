@@ -1,3 +1,4 @@
+// A parameter of a command, and the list of them, as ADO shows them.
 #include <algorithm>
 
 #include "base/text_key.h"

@@ -40,7 +40,7 @@ CLSID classIn(const std::wstring& file) {
   MEMBERID member = 0;
   USHORT found = 1;
   check(library->FindName(name.data(), 0, type.put(), &member, &found));
-  if (found == 0) throw errorOf(REGDB_E_CLASSNOTREG);
+  if (found == 0) throw comError(REGDB_E_CLASSNOTREG);
   TYPEATTR* attributes = nullptr;
   check(type->GetTypeAttr(&attributes));
   const CLSID id = attributes->guid;
@@ -63,7 +63,7 @@ ComPtr<IDispatch> createFromFile(const std::wstring& file) {
   const HMODULE module = LoadLibraryExW(file.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
   if (module == nullptr) {
     throw RunTimeError(cannotCreate, toUtf8(file) + " cannot be loaded: " +
-                                         errorOf(HRESULT_FROM_WIN32(GetLastError())).what());
+                                         comError(HRESULT_FROM_WIN32(GetLastError())).what());
   }
   const GetClassObject getClassObject = classObjectFunction(module);
   if (getClassObject == nullptr) {

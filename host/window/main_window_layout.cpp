@@ -1,3 +1,4 @@
+// Where the main window's controls stand, and how they follow its size.
 
 #include <algorithm>
 

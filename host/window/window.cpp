@@ -25,7 +25,7 @@ HFONT makeControlFont() {
 }
 
 [[noreturn]] void failWithLastError() {
-  throw errorOf(HRESULT_FROM_WIN32(GetLastError()));
+  throw comError(HRESULT_FROM_WIN32(GetLastError()));
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+// Values from the database as numbers, texts and truth, and texts as numbers.
 #include "base/value.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The array of event types: how it is filled, and how large it is.
 #include "catalog/event_catalogue.h"
 
 #include "tests/catalog/catalogue_fixture.h"

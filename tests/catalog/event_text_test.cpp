@@ -1,3 +1,4 @@
+// Which of an event's two texts is shown.
 #include "catalog/event_text.h"
 
 #include <gtest/gtest.h>

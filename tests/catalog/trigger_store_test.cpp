@@ -1,3 +1,4 @@
+// Reading and deleting trigger actions of both kinds.
 #include "catalog/trigger_store.h"
 
 #include <gmock/gmock.h>

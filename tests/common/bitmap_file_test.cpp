@@ -1,3 +1,4 @@
+// Whether a bitmap's file is as long as its header says.
 #include "common/bitmap_file.h"
 
 #include <gtest/gtest.h>

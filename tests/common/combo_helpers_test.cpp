@@ -1,3 +1,4 @@
+// Selecting a combo's row by its data.
 #include "common/combo_helpers.h"
 
 #include <gtest/gtest.h>

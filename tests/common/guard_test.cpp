@@ -1,3 +1,4 @@
+// What a guarded procedure reports, and what it returns.
 #include "common/guard.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// The host's members as the component calls them.
 #include "common/host_services.h"
 
 #include <gmock/gmock.h>

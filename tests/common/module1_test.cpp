@@ -1,3 +1,4 @@
+// Texts, permission and settings, as every window asks for them.
 #include "common/module1.h"
 
 #include <gmock/gmock.h>

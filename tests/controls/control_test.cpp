@@ -1,3 +1,4 @@
+// What all controls have in common.
 #include "controls/control.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Keys, focus and buttons of a form without a window.
 #include "controls/form.h"
 
 #include <gtest/gtest.h>

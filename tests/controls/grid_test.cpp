@@ -1,3 +1,4 @@
+// Rows of the grid, and which of them is current.
 #include "controls/grid.h"
 
 #include <gtest/gtest.h>

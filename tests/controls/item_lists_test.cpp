@@ -1,3 +1,4 @@
+// Combos and lists: rows, data, selection and check marks.
 #include "controls/item_lists.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Rows of a report list: order, keys and check marks.
 #include "controls/list_view.h"
 
 #include <gtest/gtest.h>

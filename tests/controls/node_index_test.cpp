@@ -1,3 +1,4 @@
+// Finding a tree's nodes by their keys.
 #include "controls/node_index.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The life of windows: opened once, unloaded with their owners, freed when nobody uses them.
 #include "controls/screen.h"
 
 #include <gtest/gtest.h>

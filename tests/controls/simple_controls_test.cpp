@@ -1,3 +1,4 @@
+// Buttons, labels, check boxes and text boxes.
 #include "controls/simple_controls.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Nodes of a tree, and which of them is selected.
 #include "controls/tree_view.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Twips as pixels, whatever their size.
 #include "controls/twips.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Rows of a result: moving, fields, errors in between, draining.
 #include <gtest/gtest.h>
 
 #include "base/current_error.h"

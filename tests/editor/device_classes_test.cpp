@@ -1,3 +1,4 @@
+// The combo of device classes, and the panel that goes with each.
 #include "editor/device_classes.h"
 
 #include "editor/cctv/cctv_panel.h"

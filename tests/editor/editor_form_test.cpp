@@ -1,3 +1,4 @@
+// The editor as a whole: opening, buttons, closing.
 #include "tests/editor/editor_site.h"
 
 namespace pelorin::test {

@@ -1,3 +1,4 @@
+// Nothing in the editor overlaps, and every caption has its room.
 #include <map>
 #include <set>
 

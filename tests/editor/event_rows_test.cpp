@@ -1,3 +1,4 @@
+// Events in the order of their numbers.
 #include "editor/event_rows.h"
 
 #include "tests/editor/editor_site.h"

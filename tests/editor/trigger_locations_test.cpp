@@ -1,3 +1,4 @@
+// The locations of a trigger, and the way to the picker and back.
 #include "tests/editor/editor_site.h"
 
 namespace pelorin::test {

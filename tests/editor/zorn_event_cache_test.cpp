@@ -1,3 +1,4 @@
+// The newer controllers' events, read once for an editor.
 #include "editor/zorn_event_cache.h"
 
 #include "tests/editor/editor_site.h"

@@ -1,3 +1,4 @@
+// Every fault of the journeys, at every place.
 #include "tests/fakes/faults.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Audit records in the host's file, and in the server's table.
 #include "host/core/audit_trail.h"
 
 #include <gtest/gtest.h>

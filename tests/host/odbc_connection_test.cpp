@@ -1,3 +1,4 @@
+// What is particular to ODBC: widths of numbers, long texts, broken connections.
 #include "host/odbc/odbc_connection.h"
 
 #include <gtest/gtest.h>

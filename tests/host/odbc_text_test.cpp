@@ -1,3 +1,4 @@
+// Texts between UTF-8 and ODBC's 16 bits.
 #include "host/odbc/odbc_text.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The host's command line.
 #include "host/core/options.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Which rows a played request wrote, and how they are taken out again.
 #include "host/core/played_rows.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// The texts that a host answers by number.
 #include "host/core/resource_texts.h"
 
 #include <gtest/gtest.h>

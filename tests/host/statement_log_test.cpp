@@ -1,3 +1,4 @@
+// A connection that tells what passes through it.
 #include "host/core/statement_log.h"
 
 #include <gtest/gtest.h>

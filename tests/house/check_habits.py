@@ -49,6 +49,9 @@ def code_problems(name):
                 yield f"{name}:{number}: {advice}: {line.strip()}"
     if name.endswith(".h") and "#pragma once" not in text(name):
         yield f"{name}: no #pragma once"
+    own_header = (ROOT / name).with_suffix(".h")
+    if not text(name).startswith("//") and (name.endswith(".h") or not own_header.is_file()):
+        yield f"{name}: begins with a line that says what it is for"
 
 
 def names_of_cases(name):

@@ -1,3 +1,4 @@
+// The file of captions that operators edited.
 #include "location/caption_file.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The folders under a controller, by its type.
 #include "location/controller_folders.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// Editing captions: from the menu to the file.
 #include "tests/fakes/typing.h"
 #include "tests/location/picker_fixture.h"
 

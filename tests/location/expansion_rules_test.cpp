@@ -1,3 +1,4 @@
+// Which inputs and relays of expansion boards are listed.
 #include "location/expansion_rules.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Opening the picker: its steps, its pointer, its owner.
 #include "tests/location/picker_fixture.h"
 
 namespace pelorin::test {

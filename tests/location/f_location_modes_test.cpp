@@ -1,3 +1,4 @@
+// Choosing one location, and adding several.
 #include "tests/location/picker_fixture.h"
 
 namespace pelorin::test {

@@ -1,3 +1,4 @@
+// The tree of a site: which node stands where.
 #include "location/hardware_tree.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// Recorders and alarm receivers in the tree.
 #include "location/integrated_devices.h"
 
 #include <gmock/gmock.h>

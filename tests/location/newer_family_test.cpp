@@ -1,3 +1,4 @@
+// The newer controllers' folders in the tree.
 #include "location/newer_family.h"
 
 #include <gmock/gmock.h>

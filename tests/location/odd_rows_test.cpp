@@ -1,3 +1,4 @@
+// Null and odd values in the tree's rows.
 #include <limits>
 
 #include "location/hardware_tree.h"

@@ -1,3 +1,4 @@
+// The tree's pictures, cut from one strip.
 #include "location/picture_strip.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Capitals of texts in UTF-8.
 #include "location/upper_case.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SQL Server's language, as far as the embedded site reads it.
 #include "site/batch_reader.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Generated sites of any size.
 #include "site/large_site.h"
 
 #include <gmock/gmock.h>

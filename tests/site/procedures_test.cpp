@@ -1,3 +1,4 @@
+// What the stored procedures write and answer.
 #include <gmock/gmock.h>
 
 #include "site/procedure.h"

@@ -1,3 +1,4 @@
+// Errors of the embedded site, with the server's numbers and texts.
 #include "database/ado_numbers.h"
 #include "site/errors.h"
 #include "site/row_data.h"

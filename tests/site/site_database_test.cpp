@@ -1,3 +1,4 @@
+// The file that a site is kept in.
 #include "site/site_database.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// Statements of the component over the embedded site.
 #include "site/site_session.h"
 
 #include <gmock/gmock.h>

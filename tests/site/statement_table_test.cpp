@@ -1,3 +1,4 @@
+// Every statement of the table runs over the embedded site.
 #include "site/statement_call.h"
 #include "tests/site/site_fixture.h"
 

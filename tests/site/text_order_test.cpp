@@ -1,3 +1,4 @@
+// How a server compares and sorts texts.
 #include "site/text_order.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Deleting the current trigger.
 #include "tests/summary/summary_fixture.h"
 
 namespace pelorin::test {

@@ -1,3 +1,4 @@
+// The summary's rows in the grid.
 #include "summary/summary_grid.h"
 
 #include <gtest/gtest.h>

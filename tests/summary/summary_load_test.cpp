@@ -1,3 +1,4 @@
+// Reading the summary: statements, rows, their order.
 
 #include "tests/summary/summary_fixture.h"
 

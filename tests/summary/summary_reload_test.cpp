@@ -1,3 +1,4 @@
+// Reading the summary again, and what stays where it was.
 #include "tests/summary/summary_fixture.h"
 
 namespace pelorin::test {

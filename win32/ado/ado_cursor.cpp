@@ -73,9 +73,9 @@ std::size_t AdoCursor::fetchBlock(std::size_t rows, std::vector<Value>& cells) {
   if (toBoolean(valueOf(open_.rows.call(L"EOF")))) return 0;
   const Variant block =
       open_.rows.call(L"GetRows", {Variant::int32(static_cast<std::int32_t>(rows))});
-  if (block.vt != (VT_ARRAY | VT_VARIANT)) throw errorOf(DISP_E_TYPEMISMATCH);
+  if (block.vt != (VT_ARRAY | VT_VARIANT)) throw comError(DISP_E_TYPEMISMATCH);
   if (SafeArrayGetDim(block.parray) != 2 || extentOf(block.parray, 1) != columns_.size()) {
-    throw errorOf(DISP_E_TYPEMISMATCH);
+    throw comError(DISP_E_TYPEMISMATCH);
   }
   const std::size_t fetched = extentOf(block.parray, 2);
   const ArrayAccess<const VARIANT> access(block.parray);

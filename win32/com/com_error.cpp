@@ -60,7 +60,7 @@ std::string textOf(HRESULT result) {
 
 }  // namespace
 
-RunTimeError errorOf(HRESULT result) {
+RunTimeError comError(HRESULT result) {
   return {numberOf(result), textOf(result)};
 }
 

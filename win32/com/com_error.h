@@ -9,13 +9,13 @@
 namespace pelorin {
 
 // The text is the standard one for the number, else the system's, else "Automation error".
-RunTimeError errorOf(HRESULT result);
+RunTimeError comError(HRESULT result);
 
 // The other way round: what a method answers that ended with the error.
 HRESULT resultOf(const RunTimeError& error);
 
 inline void check(HRESULT result) {
-  if (FAILED(result)) throw errorOf(result);
+  if (FAILED(result)) throw comError(result);
 }
 
 // What an object says about an error of its own (DISP_E_EXCEPTION).

@@ -1,3 +1,4 @@
+// What a VARIANT holds, as a plain value.
 #include <charconv>
 #include <limits>
 
@@ -95,7 +96,7 @@ Value direct(const VARIANT& variant) {
     case VT_ARRAY | VT_UI1:
       return hexText(variant.parray);
     default:
-      throw errorOf(DISP_E_TYPEMISMATCH);
+      throw comError(DISP_E_TYPEMISMATCH);
   }
 }
 

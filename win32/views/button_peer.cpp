@@ -1,3 +1,4 @@
+// A push button's native twin.
 #include "win32/views/form_window.h"
 #include "win32/views/peers.h"
 

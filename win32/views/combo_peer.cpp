@@ -1,3 +1,4 @@
+// A drop-down list's native twin.
 #include <algorithm>
 #include <utility>
 

@@ -1,3 +1,4 @@
+// How a form's window follows what changes in its models.
 #include "win32/views/form_window.h"
 
 namespace pelorin {

@@ -1,3 +1,4 @@
+// Dialog keys of a form's window: Tab, Enter, Escape, mnemonics.
 #include <algorithm>
 #include <cwctype>
 

@@ -1,3 +1,4 @@
+// Places of native controls: from twips of the design to pixels of the window.
 #include <algorithm>
 
 #include "win32/views/form_window.h"

@@ -1,3 +1,4 @@
+// Window messages that concern the form as a whole.
 
 #include "win32/views/form_window.h"
 #include "win32/views/popup_menu.h"

@@ -1,3 +1,4 @@
+// A label's native twin.
 #include <algorithm>
 
 #include "win32/text/utf16.h"

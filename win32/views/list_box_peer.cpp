@@ -1,3 +1,4 @@
+// A list's native twin, with its check marks.
 #include "win32/text/utf16.h"
 #include "win32/views/check_mark.h"
 #include "win32/views/form_window.h"

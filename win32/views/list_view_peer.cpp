@@ -1,3 +1,4 @@
+// A report list's native twin.
 #include "win32/views/peers.h"
 #include "win32/views/report_peer.h"
 

@@ -1,3 +1,4 @@
+// A tab control's native twin.
 
 #include <vector>
 

@@ -1,3 +1,4 @@
+// A text box's native twin.
 #include <utility>
 
 #include "base/utf.h"

@@ -1,3 +1,4 @@
+// The CCTV panel: its lists, and what hangs on what.
 #include "editor/cctv/cctv_panel.h"
 
 #include "tests/editor/editor_site.h"

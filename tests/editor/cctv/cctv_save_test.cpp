@@ -1,3 +1,4 @@
+// What saving a CCTV trigger writes, in which order.
 #include "tests/editor/editor_site.h"
 
 namespace pelorin::test {

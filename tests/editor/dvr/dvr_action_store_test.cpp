@@ -1,3 +1,4 @@
+// A recorder's action on its way into the database.
 #include "editor/dvr/dvr_action_store.h"
 
 #include "tests/editor/editor_site.h"

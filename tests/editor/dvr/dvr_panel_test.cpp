@@ -1,3 +1,4 @@
+// The recorder panel: its lists, and what hangs on what.
 #include "editor/dvr/dvr_panel.h"
 
 #include "tests/editor/editor_site.h"

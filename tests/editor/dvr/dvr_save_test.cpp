@@ -1,3 +1,4 @@
+// What saving a recorder trigger writes, in which order.
 #include "tests/editor/editor_site.h"
 
 namespace pelorin::test {

@@ -1,3 +1,4 @@
+// The rates at which recorders record, in both standards.
 #include "editor/dvr/record_rate_table.h"
 
 #include "tests/editor/editor_site.h"

@@ -1,3 +1,4 @@
+// The reference host's objects behave as ADO's do.
 #include <gmock/gmock.h>
 
 #include "host/ado/ado_command_object.h"

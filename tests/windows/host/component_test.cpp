@@ -1,3 +1,4 @@
+// The reference host loads the component and opens its database.
 #include "host/session/component.h"
 
 #include <gtest/gtest.h>

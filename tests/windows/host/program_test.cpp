@@ -1,3 +1,4 @@
+// The reference host as a program: options, boxes, output.
 #include "tests/windows/host/program.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// The reference host's services, called late-bound.
 #include <gmock/gmock.h>
 
 #include "host/core/resource_texts.h"

@@ -1,3 +1,4 @@
+// Editing triggers in the real windows.
 #include "tests/windows/journey/journey.h"
 
 namespace pelorin::test {

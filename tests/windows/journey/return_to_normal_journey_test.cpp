@@ -1,3 +1,4 @@
+// Alarms with their acknowledging triggers, through the real windows.
 #include <algorithm>
 
 #include "site/site_database.h"

@@ -1,3 +1,4 @@
+// Listing and deleting in the real windows.
 #include "host/core/resource_texts.h"
 #include "host/window/resource.h"
 #include "tests/windows/journey/journey.h"

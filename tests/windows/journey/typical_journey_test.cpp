@@ -1,3 +1,4 @@
+// The typical request, through the real windows.
 #include "host/play/outcome.h"
 #include "host/play/typical_request.h"
 #include "tests/windows/journey/journey.h"

@@ -1,3 +1,4 @@
+// Keys in native windows: focus, default and cancel button, mnemonics.
 #include "tests/windows/views/desk.h"
 #include "tests/windows/views/sample_form.h"
 

@@ -1,3 +1,4 @@
+// The native tree over its model.
 #include "driver/tree.h"
 
 #include "tests/windows/views/desk.h"
