@@ -83,14 +83,9 @@ bool isGuarded(sqlite3* database) {
 }
 
 int openFlags(Engine::Mode mode) {
-  switch (mode) {
-    case Engine::Mode::Create:
-      return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-    case Engine::Mode::Memory:
-      return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MEMORY;
-    default:
-      return SQLITE_OPEN_READWRITE;
-  }
+  if (mode == Engine::Mode::Open) return SQLITE_OPEN_READWRITE;
+  const int create = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+  return mode == Engine::Mode::Memory ? create | SQLITE_OPEN_MEMORY : create;
 }
 
 void readColumns(PreparedStatement& statement) {
