@@ -1,5 +1,5 @@
-// ADO's numbers, as its documentation has them: what the component sends and understands, and what the
-// connections that stand in ADO's place answer.
+// ADO's numbers, as its documentation has them: what the component sends and understands, and what
+// the connections that stand in ADO's place answer.
 #pragma once
 
 #include <cstdint>
