@@ -1,5 +1,6 @@
 #include "editor/frm_trigger_action.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/flag_while.h"
@@ -111,10 +112,10 @@ void frmTriggerAction::placePanels() {
 // to be whole.
 bool frmTriggerAction::loadPanels(std::int32_t actionId, std::int32_t deviceClass) {
   bool whole = true;
-  for (auto panel = panels_.rbegin(); panel != panels_.rend(); ++panel) {
-    const bool read = (*panel)->load(actionId);
-    if ((*panel)->deviceClass() == deviceClass) whole = read;
-  }
+  std::for_each(panels_.rbegin(), panels_.rend(), [&](const auto& panel) {
+    const bool read = panel->load(actionId);
+    if (panel->deviceClass() == deviceClass) whole = read;
+  });
   return whole;
 }
 

@@ -254,7 +254,7 @@ bool EngineStatement::step() {
   return result == SQLITE_ROW;
 }
 
-void EngineStatement::reset() {
+void EngineStatement::reset() const {
   // Repeats the failure of the last step, which has been reported already.
   static_cast<void>(sqlite3_reset(prepared_.handle));
 }

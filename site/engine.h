@@ -75,7 +75,7 @@ class EngineStatement {
   void bind(const std::string& parameter, const Value& value);  // ignored where it is not used
   // True while there is a row.
   bool step();
-  void reset();
+  void reset() const;
 
   // Empty names for columns that are computed and not named.
   const std::vector<std::string>& columns() const { return prepared_.columns; }
